@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+//
+// The entries that the value combos offer. Picking one opens a picker or shows a block; only some of them are
+// tokens.
+#pragma once
+
+#include <QStringList>
+
+namespace actions {
+
+// For the actions that work on a stretch of the name: sixteen entries.
+const QStringList& ValueEntries();
+
+// For Insert, Suffix, Prefix and Compose: the same without the three case entries.
+const QStringList& ValueEntriesWithoutCase();
+
+} // namespace actions

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+//
+// AppState: the values that every window reads, owned by main and handed down. Start values are what holds
+// until settings are read.
+#pragma once
+
+#include <QString>
+
+namespace model {
+
+// Asks a running loop of the rename workspace to stop. A loop tests it at each row; who clears it is told
+// at each loop.
+class StopFlag
+{
+public:
+    void Set() { set_ = true; }
+    void Clear() { set_ = false; }
+    bool IsSet() const { return set_; }
+
+private:
+    bool set_ = false;
+};
+
+struct AppState
+{
+    int CheckedCount = 0;         // checked rows of the main list
+    bool FileListChanged = false; // the main list differs from what the rename grid holds
+    bool DropStart = false;       // a rename drop runs; the windows stay hidden
+    bool SkipNextFolderEvent = false;
+    int OnTopState = 0; // 1: the window that asked for it stays above others
+
+    // Preferences, 0 or 1.
+    int AutoRefreshRenameView = 0;
+    int AutoRefreshMainView = 0;
+    int AutoValidate = 0;
+    int AutoNormalizeAttributes = 0;
+    int ShowRenameLog = 0;
+    int SaveLogFile = 0;
+    int ShowRenameDrop = 0;
+    int ConfirmAfterRename = 0;
+
+    model::StopFlag StopFlag;
+};
+
+} // namespace model

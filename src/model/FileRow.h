@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+//
+// FileRow: one row of a file list, as the file was found. A plain record; the list that holds it is
+// fileview/FileList.h.
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+namespace model {
+
+struct FileRow
+{
+    QString Text; // the file name
+    QString
+        Path; // its folder, with a trailing separator; empty for a bare name. The full name is Path & Text
+    QString Type;    // the type text; "File Folder" marks a folder; empty if the file wasn't found
+    qint64 size = 0; // bytes
+    std::optional<qint64> modified; // seconds since the epoch; none if the file wasn't found
+    bool checked = false;
+};
+
+} // namespace model

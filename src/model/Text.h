@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+//
+// Text functions that count in characters. A character is a Unicode code point: no function here ever cuts a
+// surrogate pair. A lone surrogate, which stands for a byte of a name that is no valid UTF-8, counts as one
+// character. Positions are 1-based. Texts without surrogates, nearly all names, take a fast path.
+#pragma once
+
+#include <QString>
+
+namespace model {
+
+// Number of characters.
+int Length(const QString& text);
+
+// The first `count` characters, or all if there are fewer. Throws ActionError for a negative count.
+QString Left(const QString& text, int count);
+
+// The last `count` characters, or all if there are fewer. Throws ActionError for a negative count.
+QString Right(const QString& text, int count);
+
+// `count` characters from `start` on, as far as there are any. Throws ActionError for a start below 1 or a
+// negative count.
+QString Mid(const QString& text, int start, int count);
+
+// The first character of `text`, repeated `count` times; empty for count 0, whatever the text. Throws
+// ActionError for a negative count, and for an empty text with a count above 0.
+QString Repeat(int count, const QString& text);
+
+// `text` with every occurrence of `find` replaced by `with`, from the first character on. An empty `find`
+// occurs nowhere.
+QString Replace(const QString& text, const QString& find, const QString& with,
+                Qt::CaseSensitivity comparison = Qt::CaseSensitive);
+
+// Swaps the case of the ASCII letters and leaves all others alone, unlike upper and lower case.
+QString InvertCase(const QString& text);
+
+} // namespace model

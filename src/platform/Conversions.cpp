@@ -1,0 +1,271 @@
+// SPDX-License-Identifier: MIT
+#include "platform/Conversions.h"
+
+#include <QLocale>
+#include <QRegularExpression>
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <string>
+#include <string_view>
+
+namespace platform {
+
+namespace {
+
+// The number that a text holds, in the notation of ToInt16; a hexadecimal one without its sign.
+std::optional<double> ToNumber(const QString& text)
+{
+    static const QRegularExpression decimal(QRegularExpression::anchoredPattern(
+        QStringLiteral(R"( *([+-]?(?:[0-9]+\.?[0-9]*|\.[0-9]+)(?:[eE][+-]?[0-9]+)?) *)")));
+    static const QRegularExpression hexadecimal(
+        QRegularExpression::anchoredPattern(QStringLiteral(R"( *&[hH]([0-9a-fA-F]+) *)")));
+    if (const auto match = decimal.match(text); match.hasMatch()) {
+        const QByteArray digits = match.captured(1).toLatin1();
+        bool isOk = false;
+        const double number = digits.toDouble(&isOk);
+        // A number too big for a double comes back as not ok, with infinity; one too small as 0.
+        return isOk || std::isinf(number) || number == 0.0 ? std::optional(number) : std::nullopt;
+    }
+    if (const auto match = hexadecimal.match(text); match.hasMatch()) {
+        double number = 0;
+        for (const QChar digit : match.captured(1)) {
+            number = number * 16 + QString(digit).toInt(nullptr, 16);
+        }
+        return number;
+    }
+    return std::nullopt;
+}
+
+// The system's separator of hours and minutes.
+QString TimeSeparator()
+{
+    static const QRegularExpression between(QStringLiteral("[hH]+([^hHm]+)m"));
+    QString pattern = QLocale::system().timeFormat(QLocale::ShortFormat);
+    const auto match = between.match(pattern.remove(u'\''));
+    return match.hasMatch() ? match.captured(1) : QStringLiteral(":");
+}
+
+QString TwoDigits(int number)
+{
+    return QString::number(number).rightJustified(2, u'0');
+}
+
+int HourOnTheClock(int hour, bool isTwelveHourClock)
+{
+    if (!isTwelveHourClock) {
+        return hour;
+    }
+    return hour % 12 == 0 ? 12 : hour % 12;
+}
+
+// One word of a format at `rest`, and what it writes.
+struct FormatWord
+{
+    qsizetype length = 1;
+    QString value;
+};
+
+FormatWord WordAt(const QString& format, qsizetype at, const QDateTime& moment, bool isTwelveHourClock)
+{
+    const QStringView rest = QStringView(format).sliced(at);
+    const QStringView before = QStringView(format).first(at);
+    const QDate date = moment.date();
+    const QTime time = moment.time();
+    if (rest.startsWith(u"long date")) {
+        return {9, QLocale::system().toString(date, QLocale::LongFormat)};
+    }
+    if (rest.startsWith(u"AM/PM")) {
+        return {5, time.hour() < 12 ? QStringLiteral("AM") : QStringLiteral("PM")};
+    }
+    if (rest.startsWith(u"yyyy")) {
+        return {4, QString::number(date.year()).rightJustified(4, u'0')};
+    }
+    if (rest.startsWith(u"yy")) {
+        return {2, TwoDigits(date.year() % 100)};
+    }
+    if (rest.startsWith(u"mm")) {
+        const bool isMinute = before.endsWith(u"hh") || before.endsWith(u"hh_") || before.endsWith(u"hh:");
+        return {2, TwoDigits(isMinute ? time.minute() : date.month())};
+    }
+    if (rest.startsWith(u"dd")) {
+        return {2, TwoDigits(date.day())};
+    }
+    if (rest.startsWith(u"hh")) {
+        return {2, TwoDigits(HourOnTheClock(time.hour(), isTwelveHourClock))};
+    }
+    if (rest.startsWith(u"ss")) {
+        return {2, TwoDigits(time.second())};
+    }
+    if (rest.startsWith(u':')) {
+        return {1, TimeSeparator()};
+    }
+    return {1, rest.first(1).toString()};
+}
+
+constexpr int SignificantDigits = 7;
+
+// A positive number as its first digits, rounded with halves away from zero, and its decimal exponent.
+struct Scientific
+{
+    std::string digits;
+    int exponent;
+};
+
+Scientific ToScientific(double value)
+{
+    // A float has at most 112 significant decimal digits, so this is its exact value.
+    std::array<char, 160> text{};
+    const auto end = std::to_chars(text.begin(), text.end(), value, std::chars_format::scientific, 120).ptr;
+    const std::string_view exact(text.begin(), static_cast<std::size_t>(end - text.begin()));
+    const std::size_t e = exact.find('e');
+    Scientific result{std::string(exact.substr(0, SignificantDigits + 1)),
+                      std::stoi(std::string(exact.substr(e + 1)))};
+    result.digits.erase(1, 1); // the point
+    if (exact[SignificantDigits + 1] < '5') {
+        return result;
+    }
+    int at = SignificantDigits - 1;
+    while (at >= 0 && result.digits[static_cast<std::size_t>(at)] == '9') {
+        result.digits[static_cast<std::size_t>(at--)] = '0';
+    }
+    if (at >= 0) {
+        ++result.digits[static_cast<std::size_t>(at)];
+    } else {
+        result.digits = "1000000"; // all nines
+        ++result.exponent;
+    }
+    return result;
+}
+
+} // namespace
+
+QString DescriptionOf(ConversionFault fault)
+{
+    return fault == ConversionFault::Overflow ? QStringLiteral("Overflow") : QStringLiteral("Type mismatch");
+}
+
+Int16Result ToInt16(const QString& text)
+{
+    const auto number = ToNumber(text);
+    if (!number) {
+        return {std::nullopt, ConversionFault::TypeMismatch};
+    }
+    const double rounded = std::nearbyint(*number); // halves to even
+    if (rounded < std::numeric_limits<qint16>::min() || rounded > std::numeric_limits<qint16>::max()) {
+        return {std::nullopt, ConversionFault::Overflow};
+    }
+    return {static_cast<qint16>(rounded), {}};
+}
+
+std::optional<bool> ToBoolean(const QString& text)
+{
+    const QString word = text.trimmed();
+    if (word.compare(QStringLiteral("True"), Qt::CaseInsensitive) == 0) {
+        return true;
+    }
+    if (word.compare(QStringLiteral("False"), Qt::CaseInsensitive) == 0) {
+        return false;
+    }
+    const auto number = ToNumber(text);
+    return number ? std::optional(*number != 0.0) : std::nullopt;
+}
+
+QString BooleanText(bool value)
+{
+    return value ? QStringLiteral("True") : QStringLiteral("False");
+}
+
+QString SingleText(float value)
+{
+    if (value == 0.0F) {
+        return QStringLiteral("0");
+    }
+    const Scientific number = ToScientific(std::fabs(static_cast<double>(value)));
+    QString digits = QString::fromStdString(number.digits);
+    while (digits.size() > 1 && digits.endsWith(u'0')) {
+        digits.chop(1);
+    }
+    const int exponent = number.exponent;
+    QString text;
+    if (exponent >= SignificantDigits || exponent < -4) {
+        text = digits.first(1) + (digits.size() > 1 ? u'.' + digits.mid(1) : QString()) +
+               (exponent < 0 ? QStringLiteral("E-") : QStringLiteral("E+")) + TwoDigits(std::abs(exponent));
+    } else if (exponent < 0) {
+        text = QStringLiteral("0.") + QString(-exponent - 1, u'0') + digits;
+    } else {
+        text = digits.leftJustified(exponent + 1, u'0');
+        if (text.size() > exponent + 1) {
+            text.insert(exponent + 1, u'.');
+        }
+    }
+    return value < 0 ? u'-' + text : text;
+}
+
+QString RoundedQuotientText(float value, int divisor)
+{
+    // Exact: the quotient has the float's 24 bits, ten times it has 28.
+    const double tenths = std::nearbyint(static_cast<double>(value) / divisor * 10.0);
+    return SingleText(static_cast<float>(tenths / 10.0));
+}
+
+QString ModifiedText(qint64 secondsSinceEpoch)
+{
+    return QDateTime::fromSecsSinceEpoch(secondsSinceEpoch).toString(QStringLiteral("yyyy/MM/dd HH:mm:ss"));
+}
+
+std::optional<QDateTime> ToMoment(const QString& text)
+{
+    static const QRegularExpression form(QRegularExpression::anchoredPattern(QStringLiteral(
+        R"(([0-9]{3,4})/([0-9]{1,2})/([0-9]{1,2})(?: ([0-9]{1,2}):([0-9]{1,2}):([0-9]{1,2}))?)")));
+    const auto match = form.match(text);
+    if (!match.hasMatch()) {
+        return std::nullopt;
+    }
+    const auto part = [&match](int group) {
+        return match.captured(group).toInt();
+    };
+    const QDate date(part(1), part(2), part(3));
+    const QTime time(part(4), part(5), part(6)); // groups that took no part read 0
+    const QDateTime moment(date, time);
+    return date.year() >= 100 && moment.isValid() ? std::optional(moment) : std::nullopt;
+}
+
+QString FormatMoment(const QDateTime& moment, const QString& format)
+{
+    const bool isTwelveHourClock = format.contains(QStringLiteral("AM/PM"));
+    QString text;
+    for (qsizetype at = 0; at < format.size();) {
+        const FormatWord word = WordAt(format, at, moment, isTwelveHourClock);
+        text += word.value;
+        at += word.length;
+    }
+    return text;
+}
+
+QString DefaultTimeText(const QDateTime& moment)
+{
+    static const QRegularExpression zone(QStringLiteral(R"(\s*\(?t+\)?\s*)"));
+    QString pattern = QLocale::system().timeFormat(QLocale::LongFormat);
+    return QLocale::system().toString(moment.time(), pattern.remove(zone));
+}
+
+QString MonthName(int month)
+{
+    return QLocale::system().standaloneMonthName(month, QLocale::LongFormat);
+}
+
+int SundayBasedWeekday(const QDate& date)
+{
+    return date.dayOfWeek() % 7 + 1;
+}
+
+QString WeekdayNameOfSystemWeek(int number)
+{
+    const int first = QLocale::system().firstDayOfWeek(); // Monday is 1
+    return QLocale::system().standaloneDayName((first + number - 2) % 7 + 1, QLocale::LongFormat);
+}
+
+} // namespace platform

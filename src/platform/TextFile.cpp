@@ -1,0 +1,172 @@
+// SPDX-License-Identifier: MIT
+#include "platform/TextFile.h"
+
+#include "platform/FileCopy.h"
+#include "platform/NameBytes.h"
+
+#include <array>
+#include <cerrno>
+#include <cstdlib>
+#include <fcntl.h>
+#include <memory>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace platform {
+
+namespace {
+
+constexpr int BufferSize = 64 * 1024;
+
+const QByteArray LineEnd = QByteArrayLiteral("\r\n");
+
+// Content of a plain file; empty optional for anything else. Never blocks on a pipe or device.
+std::optional<QByteArray> ReadAll(const QString& path)
+{
+    const Descriptor file(::open(ToBytes(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    struct stat info
+    {};
+    if (!file.IsOpen() || ::fstat(file.Number(), &info) != 0 || !S_ISREG(info.st_mode)) {
+        return std::nullopt;
+    }
+    QByteArray content;
+    std::array<char, BufferSize> block;
+    for (;;) {
+        const ssize_t count = ::read(file.Number(), block.data(), block.size());
+        if (count == 0) {
+            return content;
+        }
+        if (count < 0 && errno != EINTR) {
+            return std::nullopt;
+        }
+        content.append(block.data(), std::max<ssize_t>(0, count));
+    }
+}
+
+QString FromWindows1252(const QByteArray& bytes)
+{
+    // 0x80 to 0x9F; the five that are undefined keep their value.
+    static constexpr char16_t upper[32] = {0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                           0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
+                                           0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                           0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+    QString text = QString::fromLatin1(bytes);
+    for (QChar& unit : text) {
+        if (unit.unicode() >= 0x80 && unit.unicode() <= 0x9F) {
+            unit = upper[unit.unicode() - 0x80];
+        }
+    }
+    return text;
+}
+
+QString Decode(const QByteArray& bytes, Fallback fallback)
+{
+    QString text = FromBytes(bytes);
+    // Lone escapes are all that FromBytes makes of bytes that are no valid UTF-8; any such byte tells the
+    // encoding.
+    const bool isUtf8 = text.isValidUtf16();
+    return isUtf8 || fallback == Fallback::NameBytes ? text : FromWindows1252(bytes);
+}
+
+// The file that a link at `path` leads to; `path` itself if there is nothing or no link.
+QByteArray ResolveLink(const QByteArray& path)
+{
+    const std::unique_ptr<char, decltype(&std::free)> resolved(::realpath(path.constData(), nullptr),
+                                                               &std::free);
+    return resolved ? QByteArray(resolved.get()) : path;
+}
+
+} // namespace
+
+std::optional<QStringList> ReadLines(const QString& path, Fallback fallback)
+{
+    auto bytes = ReadAll(path);
+    if (!bytes) {
+        return std::nullopt;
+    }
+    if (bytes->startsWith("\xEF\xBB\xBF")) {
+        bytes->remove(0, 3);
+    }
+    if (bytes->isEmpty()) {
+        return QStringList();
+    }
+    QStringList lines = Decode(*bytes, fallback).split(u'\n');
+    if (lines.last().isEmpty()) {
+        lines.removeLast();
+    }
+    for (QString& line : lines) {
+        if (line.endsWith(u'\r')) {
+            line.chop(1);
+        }
+    }
+    return lines;
+}
+
+Status WriteDocument(const QString& path, const QStringList& lines)
+{
+    const QByteArray target = ResolveLink(ToBytes(path));
+    struct stat existing
+    {};
+    const bool exists = ::stat(target.constData(), &existing) == 0;
+    if (exists && ::access(target.constData(), W_OK) != 0) {
+        return FailureOf(errno); // a file that is marked read-only is not to be replaced
+    }
+    QByteArray content;
+    for (const QString& line : lines) {
+        content += ToBytes(line) + LineEnd;
+    }
+    TemporaryFile file(target);
+    if (Status made = file.Create(0666); !made.IsOk()) {
+        return made;
+    }
+    if ((exists && ::fchmod(file.File().Number(), existing.st_mode & 07777) != 0) ||
+        !WriteAll(file.File(), content)) {
+        return FailureOf(errno);
+    }
+    return file.MoveIntoPlace(TemporaryFile::Existing::Replace);
+}
+
+TextWriter::~TextWriter()
+{
+    static_cast<void>(Close());
+}
+
+Status TextWriter::Create(const QString& path)
+{
+    static_cast<void>(Close());
+    firstFailure_ = {};
+    file_ = Descriptor(::open(ToBytes(path).constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
+    return file_.IsOpen() ? Status() : FailureOf(errno);
+}
+
+void TextWriter::WriteLine(const QString& line)
+{
+    if (!file_.IsOpen()) {
+        return;
+    }
+    buffer_ += ToBytes(line) + LineEnd;
+    if (buffer_.size() >= BufferSize) {
+        Flush();
+    }
+}
+
+void TextWriter::Flush()
+{
+    if (!WriteAll(file_, buffer_) && firstFailure_.IsOk()) {
+        firstFailure_ = FailureOf(errno);
+    }
+    buffer_.clear();
+}
+
+Status TextWriter::Close()
+{
+    if (file_.IsOpen()) {
+        Flush();
+        if (!file_.Close() && firstFailure_.IsOk()) {
+            firstFailure_ = FailureOf(errno);
+        }
+    }
+    return firstFailure_;
+}
+
+} // namespace platform

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+//
+// The system's text files: lines of text, UTF-8, each ended by carriage return and line feed. Paths are
+// complete and converted as NameBytes.h tells; a line may hold file names that are no valid UTF-8, and keeps
+// their bytes.
+#pragma once
+
+#include "platform/Descriptor.h"
+#include "platform/Result.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+namespace platform {
+
+// How the bytes of a file that is no valid UTF-8 are read.
+enum class Fallback {
+    Windows1252, // documents: files written by older programs
+    NameBytes,   // logs: the bytes are those of file names
+};
+
+// Reads all lines of a text file. Takes CRLF and LF (and a mix); the last line may lack its end; a byte order
+// mark is dropped. An empty file gives no lines. Empty optional if the file can't be read, or is a folder.
+std::optional<QStringList> ReadLines(const QString& path, Fallback fallback = Fallback::Windows1252);
+
+// Writes a document whole or not at all: into a temporary file beside `path`, which then replaces it.
+// Whatever fails (no folder, no permission, a full disk), an existing file at `path` stays as it was.
+Status WriteDocument(const QString& path, const QStringList& lines);
+
+// A text file that grows line by line, for run logs. What was written before a failure stays written.
+class TextWriter
+{
+public:
+    TextWriter() = default;
+    ~TextWriter(); // writes out what is buffered
+    TextWriter(const TextWriter&) = delete;
+    TextWriter& operator=(const TextWriter&) = delete;
+
+    // Creates the file or empties an existing one. On failure an existing file keeps its content as far as
+    // the system allows, and every WriteLine is dropped.
+    Status Create(const QString& path);
+
+    // Appends a line and its end. Buffered; failures are kept for Close.
+    void WriteLine(const QString& line);
+
+    // Writes out the rest and closes. The first failure since Create, if any.
+    Status Close();
+
+private:
+    void Flush();
+
+    Descriptor file_;
+    QByteArray buffer_;
+    Status firstFailure_;
+};
+
+} // namespace platform
