@@ -9,7 +9,8 @@ void FileList::AddFile(const QString& folder, const QString& name, platform::Fil
 {
     model::FileRow row;
     row.Text = name;
-    row.Path = folder;
+    // Files come folder by folder: rows of one folder share its text.
+    row.Path = !rows_.empty() && rows_.back().Path == folder ? rows_.back().Path : folder;
     if (const auto info = files.GetInfo(folder, name)) {
         row.Type = info->isFolder ? platform::FolderTypeText : types_.OfFile(name);
         row.size = info->size;

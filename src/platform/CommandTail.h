@@ -15,7 +15,7 @@ QStringList ArgumentsOf(int argc, const char* const* argv);
 // Joins arguments into a tail. No arguments: empty. If any argument holds a "|", the arguments stand as they
 // are, with blanks between, since such a tail isn't unquoted. Otherwise each is quoted so that the tail's
 // drop parser gives back exactly these items, with all their quotes, blanks and backslashes; only an empty
-// argument between others is lost.
+// argument between others, or alone, is lost.
 QString BuildCommandTail(const QStringList& arguments);
 
 } // namespace platform

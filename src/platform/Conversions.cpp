@@ -6,6 +6,7 @@
 
 #include <array>
 #include <charconv>
+#include <chrono>
 #include <cmath>
 #include <limits>
 #include <string>
@@ -19,15 +20,12 @@ namespace {
 std::optional<double> ToNumber(const QString& text)
 {
     static const QRegularExpression decimal(QRegularExpression::anchoredPattern(
-        QStringLiteral(R"( *([+-]?(?:[0-9]+\.?[0-9]*|\.[0-9]+)(?:[eE][+-]?[0-9]+)?) *)")));
+        QStringLiteral(R"( *([+-]?(?:[0-9]+(?:\.[0-9]*)?|\.[0-9]+)(?:[eE][+-]?[0-9]+)?) *)")));
     static const QRegularExpression hexadecimal(
         QRegularExpression::anchoredPattern(QStringLiteral(R"( *&[hH]([0-9a-fA-F]+) *)")));
     if (const auto match = decimal.match(text); match.hasMatch()) {
-        const QByteArray digits = match.captured(1).toLatin1();
-        bool isOk = false;
-        const double number = digits.toDouble(&isOk);
-        // A number too big for a double comes back as not ok, with infinity; one too small as 0.
-        return isOk || std::isinf(number) || number == 0.0 ? std::optional(number) : std::nullopt;
+        // A number too big for a double comes back as infinity, one too small as 0.
+        return QLocale::c().toDouble(match.capturedView(1));
     }
     if (const auto match = hexadecimal.match(text); match.hasMatch()) {
         double number = 0;
@@ -42,10 +40,9 @@ std::optional<double> ToNumber(const QString& text)
 // The system's separator of hours and minutes.
 QString TimeSeparator()
 {
-    static const QRegularExpression between(QStringLiteral("[hH]+([^hHm]+)m"));
-    QString pattern = QLocale::system().timeFormat(QLocale::ShortFormat);
-    const auto match = between.match(pattern.remove(u'\''));
-    return match.hasMatch() ? match.captured(1) : QStringLiteral(":");
+    static const QRegularExpression between(QStringLiteral("[hH]+((?:'[^']*'|[^hHm'])+)m"));
+    const auto match = between.match(QLocale::system().timeFormat(QLocale::ShortFormat));
+    return match.hasMatch() ? match.captured(1).remove(u'\'') : QStringLiteral(":");
 }
 
 QString TwoDigits(int number)
@@ -162,12 +159,11 @@ Int16Result ToInt16(const QString& text)
 
 std::optional<bool> ToBoolean(const QString& text)
 {
-    const QString word = text.trimmed();
-    if (word.compare(QStringLiteral("True"), Qt::CaseInsensitive) == 0) {
-        return true;
-    }
-    if (word.compare(QStringLiteral("False"), Qt::CaseInsensitive) == 0) {
-        return false;
+    static const QRegularExpression word(
+        QRegularExpression::anchoredPattern(QStringLiteral(" *(?:(true)|false) *")),
+        QRegularExpression::CaseInsensitiveOption);
+    if (const auto match = word.match(text); match.hasMatch()) {
+        return match.hasCaptured(1);
     }
     const auto number = ToNumber(text);
     return number ? std::optional(*number != 0.0) : std::nullopt;
@@ -182,6 +178,9 @@ QString SingleText(float value)
 {
     if (value == 0.0F) {
         return QStringLiteral("0");
+    }
+    if (!std::isfinite(value)) {
+        return QString::number(static_cast<double>(value)); // no file size comes to that
     }
     const Scientific number = ToScientific(std::fabs(static_cast<double>(value)));
     QString digits = QString::fromStdString(number.digits);
@@ -218,8 +217,8 @@ QString ModifiedText(qint64 secondsSinceEpoch)
 
 std::optional<QDateTime> ToMoment(const QString& text)
 {
-    static const QRegularExpression form(QRegularExpression::anchoredPattern(QStringLiteral(
-        R"(([0-9]{3,4})/([0-9]{1,2})/([0-9]{1,2})(?: ([0-9]{1,2}):([0-9]{1,2}):([0-9]{1,2}))?)")));
+    static const QRegularExpression form(QRegularExpression::anchoredPattern(
+        QStringLiteral(R"(([0-9]{3,4})/([0-9]{1,2})/([0-9]{1,2})(?: ([0-9]{1,2}):([0-9]{2}):([0-9]{2}))?)")));
     const auto match = form.match(text);
     if (!match.hasMatch()) {
         return std::nullopt;
@@ -229,8 +228,12 @@ std::optional<QDateTime> ToMoment(const QString& text)
     };
     const QDate date(part(1), part(2), part(3));
     const QTime time(part(4), part(5), part(6)); // groups that took no part read 0
+    if (!date.isValid() || !time.isValid() || date.year() < 100) {
+        return std::nullopt;
+    }
     const QDateTime moment(date, time);
-    return date.year() >= 100 && moment.isValid() ? std::optional(moment) : std::nullopt;
+    // A time that summer time skips: a whole day after the same time of the day before, which exists.
+    return moment.isValid() ? moment : QDateTime(date.addDays(-1), time).addDuration(std::chrono::hours(24));
 }
 
 QString FormatMoment(const QDateTime& moment, const QString& format)
@@ -247,7 +250,9 @@ QString FormatMoment(const QDateTime& moment, const QString& format)
 
 QString DefaultTimeText(const QDateTime& moment)
 {
-    static const QRegularExpression zone(QStringLiteral(R"(\s*\(?t+\)?\s*)"));
+    // With what sets it off from the time: "t", "(t)", "[t]", ", t". A "t" between quotes is a plain letter.
+    static const QRegularExpression zone(
+        QStringLiteral(R"([\s,]*[(\[]?t+[)\]]?\s*(?=(?:[^']*'[^']*')*[^']*$))"));
     QString pattern = QLocale::system().timeFormat(QLocale::LongFormat);
     return QLocale::system().toString(moment.time(), pattern.remove(zone));
 }

@@ -37,8 +37,8 @@ std::optional<bool> ToBoolean(const QString& text);
 QString BooleanText(bool value);
 
 // Default text of a single-precision number: up to seven significant digits (halves away from zero), no
-// trailing zeros,
-// "." as separator; from 10,000,000 on, and below 0.0001, scientific like "1.234568E+07" or "1E-05".
+// trailing zeros, "." as separator; from 10,000,000 on, and below 0.0001, scientific like "1.234568E+07" or
+// "1E-05".
 QString SingleText(float value);
 
 // `value` divided by `divisor`, a power of two, rounded to one decimal with ties to even, as SingleText
@@ -49,7 +49,8 @@ QString RoundedQuotientText(float value, int divisor);
 QString ModifiedText(qint64 secondsSinceEpoch);
 
 // Reads "yyyy/MM/dd", alone (midnight) or followed by a blank and "hh:mm:ss", in the local zone; one-digit
-// months, days and hours are taken too. Empty optional for anything else and for dates that don't exist.
+// months, days and hours are taken too. Empty optional for anything else and for dates that don't exist; a
+// time that the change to summer time skips is moved on by as much.
 std::optional<QDateTime> ToMoment(const QString& text);
 
 // Writes a moment by a format of these words; any other character stands for itself:

@@ -2,6 +2,7 @@
 #include "platform/Descriptor.h"
 
 #include <cerrno>
+#include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
 
@@ -18,6 +19,10 @@ bool WriteAll(const Descriptor& to, QByteArrayView bytes)
     while (!bytes.isEmpty()) {
         const ssize_t written = ::write(to.Number(), bytes.data(), static_cast<std::size_t>(bytes.size()));
         if (written < 0 && errno != EINTR) {
+            return false;
+        }
+        if (written == 0) {
+            errno = EIO; // or this would never end
             return false;
         }
         bytes = bytes.sliced(written < 0 ? 0 : written);
@@ -44,6 +49,16 @@ Status FailureOf(int error)
     default:
         return Status::Failure(QString::fromStdString(std::generic_category().message(error)));
     }
+}
+
+Status FailureAt(const QByteArray& path, int error)
+{
+    const QByteArray folder = path.left(path.lastIndexOf('/') + 1);
+    struct stat info
+    {};
+    const bool isFolderThere = folder.isEmpty() || ::stat(folder.constData(), &info) == 0;
+    return error == ENOENT && isFolderThere ? Status::Failure(QStringLiteral("File not found"))
+                                            : FailureOf(error);
 }
 
 } // namespace platform

@@ -6,6 +6,7 @@
 
 #include "platform/Result.h"
 
+#include <QByteArray>
 #include <QByteArrayView>
 
 #include <utility>
@@ -41,5 +42,8 @@ private:
 // The failure for an errno value: the classic descriptions ("File already exists", "Permission denied", "Disk
 // full", "Path not found"), else the system's own text. ENOENT and ENOTDIR are "Path not found" here.
 Status FailureOf(int error);
+
+// The same, but a file that is missing in a folder that is there is "File not found".
+Status FailureAt(const QByteArray& path, int error);
 
 } // namespace platform

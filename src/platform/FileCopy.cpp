@@ -5,12 +5,14 @@
 #include "platform/NameBytes.h"
 
 #include <QList>
+#include <QString>
 
 #include <algorithm>
 #include <array>
 #include <cerrno>
 #include <climits>
 #include <cstdio>
+#include <cstring>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
@@ -59,11 +61,23 @@ void CopyAttributes(const Descriptor& from, const Descriptor& to)
     }
 }
 
-Status CopyAcross(const QByteArray& from, const QByteArray& to, const struct stat& info)
+// Opens a file to be copied and looks at it. Refuses folders and special files, without waiting for a pipe.
+Status OpenSource(const QByteArray& path, int flags, Descriptor& source, struct stat& info)
 {
-    const Descriptor source(::open(from.constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
-    if (!source.IsOpen()) {
+    source = Descriptor(::open(path.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | flags));
+    if (!source.IsOpen() || ::fstat(source.Number(), &info) != 0) {
         return FailureOf(errno);
+    }
+    return S_ISREG(info.st_mode) ? Status() : FailureOf(S_ISDIR(info.st_mode) ? EISDIR : EINVAL);
+}
+
+Status CopyAcross(const QByteArray& from, const QByteArray& to)
+{
+    Descriptor source;
+    struct stat info
+    {};
+    if (Status opened = OpenSource(from, O_NOFOLLOW, source, info); !opened.IsOk()) {
+        return opened;
     }
     TemporaryFile copy(to);
     if (Status made = copy.Create(S_IRUSR | S_IWUSR); !made.IsOk()) {
@@ -72,15 +86,32 @@ Status CopyAcross(const QByteArray& from, const QByteArray& to, const struct sta
     if (!CopyContent(source, copy.File())) {
         return FailureOf(errno);
     }
+    // Another owner can't be kept by everyone, and without it a file mustn't run as its owner. What follows
+    // comes after it since changing the owner drops parts of it.
+    const bool isOwnerKept = ::fchown(copy.File().Number(), info.st_uid, info.st_gid) == 0;
     CopyAttributes(source, copy.File());
-    // Another owner can't be kept by everyone; the mode comes after it since changing the owner drops parts
-    // of it.
-    static_cast<void>(::fchown(copy.File().Number(), info.st_uid, info.st_gid) == 0);
+    const mode_t mode = info.st_mode & (isOwnerKept ? 07777 : 01777);
     const std::array<timespec, 2> times{info.st_atim, info.st_mtim};
-    const bool isComplete = ::fchmod(copy.File().Number(), info.st_mode & 07777) == 0 &&
-                            ::futimens(copy.File().Number(), times.data()) == 0 &&
-                            ::fsync(copy.File().Number()) == 0;
-    return isComplete ? copy.MoveIntoPlace(TemporaryFile::Existing::Refuse) : FailureOf(errno);
+    if (::fchmod(copy.File().Number(), mode) != 0 || ::futimens(copy.File().Number(), times.data()) != 0) {
+        return FailureOf(errno);
+    }
+    return copy.MoveIntoPlace(TemporaryFile::Existing::Refuse);
+}
+
+// The folder part of a path, with its separator; empty for the current directory.
+QByteArray FolderOf(const QByteArray& path)
+{
+    return path.left(path.lastIndexOf('/') + 1);
+}
+
+// Writes a folder's names to the disk, as far as its file system does that.
+void SyncFolderOf(const QByteArray& path)
+{
+    const QByteArray folder = FolderOf(path) + '.';
+    const Descriptor opened(::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (opened.IsOpen()) {
+        ::fsync(opened.Number());
+    }
 }
 
 Status LinkAcross(const QByteArray& from, const QByteArray& to)
@@ -91,6 +122,48 @@ Status LinkAcross(const QByteArray& from, const QByteArray& to)
         return FailureOf(errno);
     }
     return {};
+}
+
+// True if both names are the same file because the file system regards no case. A file with several links is
+// taken for two.
+bool IsSameInOtherCase(int fromFolder, const char* from, int toFolder, const char* to)
+{
+    struct stat source
+    {};
+    struct stat target
+    {};
+    return std::strcmp(from, to) != 0 && FromBytes(from).compare(FromBytes(to), Qt::CaseInsensitive) == 0 &&
+           ::fstatat(fromFolder, from, &source, AT_SYMLINK_NOFOLLOW) == 0 &&
+           ::fstatat(toFolder, to, &target, AT_SYMLINK_NOFOLLOW) == 0 && source.st_dev == target.st_dev &&
+           source.st_ino == target.st_ino && (S_ISDIR(source.st_mode) || source.st_nlink == 1);
+}
+
+// Changes the case of a name in two steps, neither of which overwrites. A failure leaves the old name.
+int RenameCase(int fromFolder, const char* from, int toFolder, const char* to, bool isFolder)
+{
+    const QByteArray between = FolderOf(to) + ".quillmark-" + QByteArray::number(::getpid()) + "-case.tmp";
+    int error = RenameWithoutReplacing(fromFolder, from, toFolder, between.constData(), isFolder);
+    if (error == 0) {
+        error = RenameWithoutReplacing(toFolder, between.constData(), toFolder, to, isFolder);
+        if (error != 0) {
+            RenameWithoutReplacing(toFolder, between.constData(), fromFolder, from, isFolder);
+        }
+    }
+    return error;
+}
+
+// The way out for file systems that know no renaming without replacing.
+int LinkAndUnlink(int fromFolder, const char* from, int toFolder, const char* to)
+{
+    if (::linkat(fromFolder, from, toFolder, to, 0) != 0) {
+        return errno == EPERM || errno == ENOSYS ? EOPNOTSUPP : errno;
+    }
+    if (::unlinkat(fromFolder, from, 0) != 0) {
+        const int unlinkError = errno;
+        ::unlinkat(toFolder, to, 0);
+        return unlinkError;
+    }
+    return 0;
 }
 
 } // namespace
@@ -104,7 +177,7 @@ TemporaryFile::~TemporaryFile()
 
 Status TemporaryFile::Create(mode_t mode)
 {
-    const QByteArray folder = target_.left(target_.lastIndexOf('/') + 1);
+    const QByteArray folder = FolderOf(target_);
     for (int attempt = 0; attempt < 1000; ++attempt) {
         const QByteArray path = folder + ".quillmark-" + QByteArray::number(::getpid()) + '-' +
                                 QByteArray::number(attempt) + ".tmp";
@@ -122,12 +195,17 @@ Status TemporaryFile::Create(mode_t mode)
 
 Status TemporaryFile::MoveIntoPlace(Existing existing)
 {
-    if (!file_.Close()) {
+    if (::fsync(file_.Number()) != 0 || !file_.Close()) {
         return FailureOf(errno);
     }
     int error = 0;
+    struct stat present
+    {};
     if (existing == Existing::Refuse) {
         error = RenameWithoutReplacing(AT_FDCWD, path_.constData(), AT_FDCWD, target_.constData(), false);
+    } else if (::lstat(target_.constData(), &present) == 0 && !S_ISREG(present.st_mode) &&
+               !S_ISLNK(present.st_mode)) {
+        error = S_ISDIR(present.st_mode) ? EISDIR : EACCES;
     } else if (::rename(path_.constData(), target_.constData()) != 0) {
         error = errno;
     }
@@ -144,22 +222,18 @@ int RenameWithoutReplacing(int fromFolder, const char* from, int toFolder, const
         return 0;
     }
     const int error = errno;
+    if (error == EEXIST && IsSameInOtherCase(fromFolder, from, toFolder, to)) {
+        return RenameCase(fromFolder, from, toFolder, to, isFolder);
+    }
     const bool lacksTheStep = error == EINVAL || error == ENOSYS || error == EOPNOTSUPP;
     if (!lacksTheStep) {
         return error;
     }
-    if (isFolder) {
-        return error == EINVAL ? error : EOPNOTSUPP;
+    // A folder can't be moved into itself on any file system.
+    if (error == EINVAL && QByteArrayView(to).startsWith(QByteArray(from) + '/')) {
+        return error;
     }
-    if (::linkat(fromFolder, from, toFolder, to, 0) != 0) {
-        return errno == EPERM ? EOPNOTSUPP : errno;
-    }
-    if (::unlinkat(fromFolder, from, 0) != 0) {
-        const int unlinkError = errno;
-        ::unlinkat(toFolder, to, 0);
-        return unlinkError;
-    }
-    return 0;
+    return isFolder ? EOPNOTSUPP : LinkAndUnlink(fromFolder, from, toFolder, to);
 }
 
 Status MoveAcrossDevices(const QByteArray& from, const QByteArray& to)
@@ -172,10 +246,15 @@ Status MoveAcrossDevices(const QByteArray& from, const QByteArray& to)
     if (!S_ISREG(info.st_mode) && !S_ISLNK(info.st_mode)) {
         return Status::Failure(QStringLiteral("Only files can be moved to another disk"));
     }
-    if (Status moved = S_ISLNK(info.st_mode) ? LinkAcross(from, to) : CopyAcross(from, to, info);
-        !moved.IsOk()) {
+    struct stat present
+    {};
+    if (::lstat(to.constData(), &present) == 0) {
+        return FailureOf(EEXIST); // told before a long copy
+    }
+    if (Status moved = S_ISLNK(info.st_mode) ? LinkAcross(from, to) : CopyAcross(from, to); !moved.IsOk()) {
         return moved;
     }
+    SyncFolderOf(to);
     if (::unlink(from.constData()) != 0) {
         const int error = errno;
         ::unlink(to.constData());
@@ -186,12 +265,19 @@ Status MoveAcrossDevices(const QByteArray& from, const QByteArray& to)
 
 Status CopyFile(const QString& from, const QString& to)
 {
-    const Descriptor source(::open(ToBytes(from).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-    if (!source.IsOpen()) {
-        return FailureOf(errno);
+    const auto fromPath = ToPath(from);
+    const auto toPath = ToPath(to);
+    if (!fromPath || !toPath) {
+        return FailureOf(EINVAL);
     }
-    TemporaryFile copy(ToBytes(to));
-    if (Status made = copy.Create(0666); !made.IsOk()) {
+    Descriptor source;
+    struct stat info
+    {};
+    if (Status opened = OpenSource(*fromPath, 0, source, info); !opened.IsOk()) {
+        return opened;
+    }
+    TemporaryFile copy(*toPath);
+    if (Status made = copy.Create(info.st_mode & 0777); !made.IsOk()) {
         return made;
     }
     return CopyContent(source, copy.File()) ? copy.MoveIntoPlace(TemporaryFile::Existing::Replace)

@@ -27,8 +27,8 @@ public:
     Status Create(mode_t mode);
     const Descriptor& File() const { return file_; }
 
-    // Closes the file and puts it in the target's place, over what is there or, if not allowed to replace,
-    // failing with "File already exists".
+    // Syncs and closes the file and puts it in the target's place, over a file or a link that is there (a
+    // folder, pipe or device refuses) or, if not allowed to replace, failing with "File already exists".
     enum class Existing { Replace, Refuse };
     Status MoveIntoPlace(Existing existing);
 
@@ -39,8 +39,9 @@ private:
 };
 
 // Renames within a file system in one atomic step that refuses an existing target; where the file system
-// lacks that step, by a second link and unlinking the first name, for anything but a folder. 0, or an errno
-// value: EXDEV for another file system, EOPNOTSUPP where no safe way exists.
+// lacks that step, by a second link and unlinking the first name, for anything but a folder. Where the
+// target is the source itself in another case, by way of a temporary name. 0, or an errno value: EXDEV for
+// another file system, EOPNOTSUPP where no safe way exists.
 int RenameWithoutReplacing(int fromFolder, const char* from, int toFolder, const char* to, bool isFolder);
 
 // Moves a file to another file system: copies it with its times, mode and extended attributes to a temporary

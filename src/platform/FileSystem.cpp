@@ -9,6 +9,7 @@
 #include <sys/stat.h>
 #include <sys/xattr.h>
 #include <unistd.h>
+#include <utility>
 
 namespace platform {
 
@@ -20,13 +21,6 @@ struct Place
     int folder = AT_FDCWD;
     QByteArray name;
 };
-
-// The bytes of `text`; not a name at all if it holds a NUL, at which the system would cut it.
-std::optional<QByteArray> NameOf(const QString& text)
-{
-    QByteArray bytes = ToBytes(text);
-    return bytes.contains('\0') ? std::nullopt : std::optional(std::move(bytes));
-}
 
 // A name that can be looked up in its folder. One that leads elsewhere, or an empty one, is taken as a full
 // name.
@@ -42,9 +36,10 @@ bool Exists(const Place& place)
     return ::fstatat(place.folder, place.name.constData(), &info, AT_SYMLINK_NOFOLLOW) == 0;
 }
 
-Status NotFound(bool isFolder)
+// The failure of a source that isn't there.
+Status Missing(const Place& from, bool isFolder)
 {
-    return Status::Failure(isFolder ? QStringLiteral("Path not found") : QStringLiteral("File not found"));
+    return isFolder ? FailureOf(ENOENT) : FailureAt(from.name, ENOENT);
 }
 
 // The text for an errno value of a failed move.
@@ -52,8 +47,11 @@ Status FailureOfMove(int error, const Place& from, bool isFolder)
 {
     switch (error) {
     case ENOENT:
-        return Exists(from) ? FailureOf(error) : NotFound(isFolder);
+        return Exists(from) ? FailureOf(error) : Missing(from, isFolder);
     case EXDEV:
+        if (!Exists(from)) {
+            return Missing(from, isFolder);
+        }
         return Status::Failure(QStringLiteral("A folder can't be moved to another disk"));
     case EOPNOTSUPP:
         return Status::Failure(
@@ -67,24 +65,26 @@ Status FailureOfMove(int error, const Place& from, bool isFolder)
 
 FileSystem::~FileSystem()
 {
+    CloseFolder();
+}
+
+void FileSystem::CloseFolder()
+{
     if (openDescriptor_ >= 0) {
-        ::close(openDescriptor_);
+        ::close(std::exchange(openDescriptor_, -1));
     }
 }
 
 int FileSystem::DescriptorOf(const QString& folder)
 {
-    if (folder.isEmpty()) {
-        return AT_FDCWD;
-    }
     if (openDescriptor_ >= 0 && folder == openFolder_) {
         return openDescriptor_;
     }
-    if (openDescriptor_ >= 0) {
-        ::close(openDescriptor_);
-        openDescriptor_ = -1;
+    CloseFolder();
+    if (folder.isEmpty()) {
+        return AT_FDCWD;
     }
-    const auto path = NameOf(folder);
+    const auto path = ToPath(folder);
     if (!path) {
         errno = ENOENT;
         return -1;
@@ -97,7 +97,7 @@ int FileSystem::DescriptorOf(const QString& folder)
 std::optional<FileInfo> FileSystem::GetInfo(const QString& folder, const QString& name)
 {
     const bool isPlain = IsPlain(name);
-    const auto bytes = NameOf(isPlain ? name : folder + name);
+    const auto bytes = ToPath(isPlain ? name : folder + name);
     const int descriptor = isPlain ? DescriptorOf(folder) : AT_FDCWD;
     struct stat info
     {};
@@ -129,53 +129,62 @@ Status FileSystem::Move(const QString& folder, const QString& name, const QStrin
 {
     const bool isFolder = kind == EntryKind::Folder;
     const bool arePlain = IsPlain(name) && IsPlain(newName);
-    const auto from = NameOf(arePlain ? name : folder + name);
-    const auto to = NameOf(arePlain ? newName : folder + newName);
-    if (!from) {
-        return NotFound(isFolder);
+    const auto from = ToPath(arePlain ? name : folder + name);
+    const auto to = ToPath(arePlain ? newName : folder + newName);
+    if (!from || name.isEmpty()) {
+        return Missing({}, isFolder); // an empty name would be the folder itself
     }
     if (!to) {
         return FailureOf(EINVAL);
     }
-    const int descriptor = arePlain ? DescriptorOf(folder) : AT_FDCWD;
-    if (descriptor == -1) {
+    const int folderDescriptor = DescriptorOf(folder);
+    if (folderDescriptor == -1) {
         return FailureOf(errno);
     }
+    const int descriptor = arePlain ? folderDescriptor : AT_FDCWD;
     if (newName.isEmpty()) {
         // The target is the folder itself, which is there.
-        return Exists({AT_FDCWD, *from}) ? FailureOf(EEXIST) : NotFound(isFolder);
+        const Place source{AT_FDCWD, *from};
+        return Exists(source) ? FailureOf(EEXIST) : Missing(source, isFolder);
     }
     const int error =
         RenameWithoutReplacing(descriptor, from->constData(), descriptor, to->constData(), isFolder);
     if (error == 0) {
+        if (isFolder && !arePlain) {
+            CloseFolder(); // it may be below the one that was moved
+        }
         return {};
     }
-    if (error == EXDEV && !isFolder) {
+    const Place place{descriptor, *from};
+    if (error == EXDEV && !isFolder && Exists(place)) {
         return MoveAcrossDevices(ToBytes(folder + name), ToBytes(folder + newName));
     }
-    return FailureOfMove(error, {descriptor, *from}, isFolder);
+    return FailureOfMove(error, place, isFolder);
 }
 
 Status FileSystem::SetNormalAttributes(const QString& folder, const QString& name)
 {
-    const auto path = NameOf(folder + name);
+    const auto path = ToPath(folder + name);
     struct stat info
     {};
-    if (!path || ::stat(path->constData(), &info) != 0) {
-        return NotFound(false);
+    if (!path) {
+        return Missing({}, false);
+    }
+    if (::stat(path->constData(), &info) != 0) {
+        return FailureAt(*path, errno);
     }
     if ((info.st_mode & S_IWUSR) == 0 && ::chmod(path->constData(), (info.st_mode & 07777) | S_IWUSR) != 0) {
         return FailureOf(errno);
     }
-    if (::removexattr(path->constData(), "user.DOSATTRIB") != 0 && errno != ENODATA && errno != EOPNOTSUPP) {
-        return FailureOf(errno);
-    }
-    return {};
+    // Looked up first, since a file of somebody else refuses a removal even where there is nothing to remove.
+    const char* const marks = "user.DOSATTRIB";
+    const bool isMarked = ::getxattr(path->constData(), marks, nullptr, 0) >= 0;
+    return isMarked && ::removexattr(path->constData(), marks) != 0 ? FailureOf(errno) : Status();
 }
 
 Status CreateFolder(const QString& path)
 {
-    const auto bytes = NameOf(path);
+    const auto bytes = ToPath(path);
     if (!bytes) {
         return FailureOf(EINVAL);
     }
@@ -187,7 +196,12 @@ Status CreateFolder(const QString& path)
     if (!bytes->endsWith('/') && ::mkdir(bytes->constData(), 0777) != 0 && errno != EEXIST) {
         return FailureOf(errno);
     }
-    return {};
+    struct stat info
+    {};
+    if (::stat(bytes->constData(), &info) != 0 && errno != ENOTDIR) {
+        return FailureOf(errno);
+    }
+    return S_ISDIR(info.st_mode) ? Status() : FailureOf(EEXIST);
 }
 
 } // namespace platform

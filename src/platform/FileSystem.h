@@ -6,8 +6,8 @@
 // by others between two runs is looked up anew.
 //
 // What always holds:
-//  1. No operation here overwrites an existing file, folder or link. A dangling link is an existing target
-//  too.
+//  1. No operation here overwrites an existing file, folder or link. A dangling link is an
+//     existing target too.
 //  2. A link is moved itself, never what it points at.
 //  3. Wildcard characters are plain characters.
 //  4. After a failure the source stands where it stood, whole.
@@ -54,17 +54,18 @@ public:
     // Renames folder & name to folder & newName in one atomic step that refuses an existing target. Fails
     // with "File already exists", "File not found", "Path not found", "Permission denied", "Disk full", else
     // with the system's own text. An empty newName names the folder itself and so fails as an existing
-    // target. Where newName leads to another file system, the file is copied to a temporary name beside the
-    // target, synced, renamed there without replacing, and only then is the source removed; half a failure
-    // leaves the source whole and no target.
+    // target; an empty name is a missing source. Where newName leads to another file system, the file is
+    // copied to a temporary name beside the target, synced, renamed there without replacing, and only then is
+    // the source removed; half a failure leaves the source whole and no target. Where the file system takes
+    // "a.JPG" and "a.jpg" for one name, a change of case goes by way of a temporary name.
     Status MoveFile(const QString& folder, const QString& name, const QString& newName);
 
     // The same for a folder with all that is in it; a missing source is "Path not found". It refuses to move
     // to another file system, and on a file system that can't refuse an existing target atomically.
     Status MoveFolder(const QString& folder, const QString& name, const QString& newName);
 
-    // Makes a file writable for its owner and takes the hidden, system and archive marks off. Fails with
-    // the descriptions above.
+    // Makes a file writable for its owner and takes the hidden, system and archive marks off; at a link, of
+    // what it points at. Fails with the descriptions above.
     Status SetNormalAttributes(const QString& folder, const QString& name);
 
 private:
@@ -74,17 +75,20 @@ private:
     // asked for. AT_FDCWD for the empty folder; -1 (errno set) if it can't be opened.
     int DescriptorOf(const QString& folder);
 
+    void CloseFolder();
+
     Status Move(const QString& folder, const QString& name, const QString& newName, EntryKind kind);
 
     QString openFolder_;
     int openDescriptor_ = -1;
 };
 
-// Copies the file `from` to `to`, replacing what is there; the copy is written whole or not at all. Paths are
-// complete.
+// Copies the file `from` to `to`, replacing a file or a link that is there; the copy is written whole or not
+// at all and takes the permissions over. Paths are complete.
 Status CopyFile(const QString& from, const QString& to);
 
-// Makes the folder `path` and every missing one above it. Success if it is there already.
+// Makes the folder `path` and every missing one above it. Success if it is there already; "File already
+// exists" if something else is.
 Status CreateFolder(const QString& path);
 
 } // namespace platform

@@ -2,6 +2,8 @@
 #include "platform/NameBytes.h"
 
 #include <algorithm>
+#include <array>
+#include <utility>
 
 namespace platform {
 
@@ -50,22 +52,33 @@ bool IsAscii(QByteArrayView bytes)
     return std::all_of(bytes.begin(), bytes.end(), [](char c) { return static_cast<signed char>(c) >= 0; });
 }
 
+// The code point that a valid sequence of `length` bytes stands for.
+char32_t CodePointAt(QByteArrayView bytes, qsizetype at, int length)
+{
+    static constexpr std::array<unsigned char, 5> firstBits = {0, 0x7F, 0x1F, 0x0F, 0x07};
+    char32_t code = ByteAt(bytes, at) & firstBits[static_cast<std::size_t>(length)];
+    for (int i = 1; i < length; ++i) {
+        code = code << 6 | (ByteAt(bytes, at + i) & 0x3F);
+    }
+    return code;
+}
+
+// Decodes by hand, since Qt's decoder drops a byte order mark, which is part of a name.
 QString FromMixedBytes(QByteArrayView bytes)
 {
     QString text;
     text.reserve(bytes.size());
-    qsizetype valid = 0; // start of the valid stretch that isn't copied yet
     for (qsizetype at = 0; at < bytes.size();) {
         const int length = ByteAt(bytes, at) < 0x80 ? 1 : SequenceLength(bytes, at);
-        if (length > 0) {
-            at += length;
+        if (length == 0) {
+            text += QChar(static_cast<char16_t>(EscapeBase + ByteAt(bytes, at)));
+            ++at;
             continue;
         }
-        text += QString::fromUtf8(bytes.sliced(valid, at - valid));
-        text += QChar(static_cast<char16_t>(EscapeBase + ByteAt(bytes, at)));
-        valid = ++at;
+        text += QStringView(QChar::fromUcs4(CodePointAt(bytes, at, length)));
+        at += length;
     }
-    return text + QString::fromUtf8(bytes.sliced(valid));
+    return text;
 }
 
 bool IsEscape(QChar unit)
@@ -82,19 +95,29 @@ QString FromBytes(QByteArrayView bytes)
 
 QByteArray ToBytes(const QString& text)
 {
-    const auto isLoneEscape = [&text](qsizetype at) {
-        return IsEscape(text.at(at)) && (at == 0 || !text.at(at - 1).isHighSurrogate());
-    };
     QByteArray bytes;
     qsizetype plain = 0; // start of the stretch that isn't encoded yet
     for (qsizetype at = 0; at < text.size(); ++at) {
-        if (isLoneEscape(at)) {
-            bytes += QStringView(text).sliced(plain, at - plain).toUtf8();
-            bytes += static_cast<char>(text.at(at).unicode() - EscapeBase);
-            plain = at + 1;
+        const QChar unit = text.at(at);
+        if (!unit.isSurrogate()) {
+            continue;
         }
+        if (unit.isHighSurrogate() && at + 1 < text.size() && text.at(at + 1).isLowSurrogate()) {
+            ++at;
+            continue;
+        }
+        bytes += QStringView(text).sliced(plain, at - plain).toUtf8();
+        bytes += IsEscape(unit) ? QByteArray(1, static_cast<char>(unit.unicode() - EscapeBase))
+                                : QByteArrayLiteral("\xEF\xBF\xBD");
+        plain = at + 1;
     }
     return plain == 0 ? text.toUtf8() : bytes + QStringView(text).sliced(plain).toUtf8();
+}
+
+std::optional<QByteArray> ToPath(const QString& text)
+{
+    QByteArray bytes = ToBytes(text);
+    return bytes.contains('\0') ? std::nullopt : std::optional(std::move(bytes));
 }
 
 } // namespace platform

@@ -11,6 +11,8 @@
 #include <QByteArrayView>
 #include <QString>
 
+#include <optional>
+
 namespace platform {
 
 // Text of a name or path. Never fails. Overlong forms and encoded surrogates count as invalid, byte by byte.
@@ -19,5 +21,9 @@ QString FromBytes(QByteArrayView bytes);
 // Bytes of a text. Lone surrogates U+DC80 to U+DCFF become the bytes they stand for; any other lone
 // surrogate, which no name on disk can yield, becomes the replacement character's three bytes.
 QByteArray ToBytes(const QString& text);
+
+// ToBytes for a path that goes to the system. Empty optional if it holds a NUL, at which the system would cut
+// it.
+std::optional<QByteArray> ToPath(const QString& text);
 
 } // namespace platform

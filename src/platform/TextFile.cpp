@@ -4,6 +4,7 @@
 #include "platform/FileCopy.h"
 #include "platform/NameBytes.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdlib>
@@ -17,16 +18,19 @@ namespace platform {
 namespace {
 
 constexpr int BufferSize = 64 * 1024;
+constexpr qsizetype MaximumSize = 256 * 1024 * 1024; // bytes of a file that is read
 
 const QByteArray LineEnd = QByteArrayLiteral("\r\n");
 
 // Content of a plain file; empty optional for anything else. Never blocks on a pipe or device.
 std::optional<QByteArray> ReadAll(const QString& path)
 {
-    const Descriptor file(::open(ToBytes(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    const auto bytes = ToPath(path);
+    const Descriptor file(bytes ? ::open(bytes->constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK) : -1);
     struct stat info
     {};
-    if (!file.IsOpen() || ::fstat(file.Number(), &info) != 0 || !S_ISREG(info.st_mode)) {
+    if (!file.IsOpen() || ::fstat(file.Number(), &info) != 0 || !S_ISREG(info.st_mode) ||
+        info.st_size > MaximumSize) {
         return std::nullopt;
     }
     QByteArray content;
@@ -40,6 +44,9 @@ std::optional<QByteArray> ReadAll(const QString& path)
             return std::nullopt;
         }
         content.append(block.data(), std::max<ssize_t>(0, count));
+        if (content.size() > MaximumSize) {
+            return std::nullopt;
+        }
     }
 }
 
@@ -104,11 +111,15 @@ std::optional<QStringList> ReadLines(const QString& path, Fallback fallback)
 
 Status WriteDocument(const QString& path, const QStringList& lines)
 {
-    const QByteArray target = ResolveLink(ToBytes(path));
+    const auto bytes = ToPath(path);
+    if (!bytes) {
+        return FailureOf(EINVAL);
+    }
+    const QByteArray target = ResolveLink(*bytes);
     struct stat existing
     {};
     const bool exists = ::stat(target.constData(), &existing) == 0;
-    if (exists && ::access(target.constData(), W_OK) != 0) {
+    if (exists && ::faccessat(AT_FDCWD, target.constData(), W_OK, AT_EACCESS) != 0) {
         return FailureOf(errno); // a file that is marked read-only is not to be replaced
     }
     QByteArray content;
@@ -134,14 +145,18 @@ TextWriter::~TextWriter()
 Status TextWriter::Create(const QString& path)
 {
     static_cast<void>(Close());
-    firstFailure_ = {};
-    file_ = Descriptor(::open(ToBytes(path).constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
-    return file_.IsOpen() ? Status() : FailureOf(errno);
+    const auto bytes = ToPath(path);
+    // Without waiting for a reader of a pipe.
+    const int flags = O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NONBLOCK;
+    errno = EINVAL;
+    file_ = Descriptor(bytes ? ::open(bytes->constData(), flags, 0666) : -1);
+    firstFailure_ = file_.IsOpen() ? Status() : FailureOf(errno);
+    return firstFailure_;
 }
 
 void TextWriter::WriteLine(const QString& line)
 {
-    if (!file_.IsOpen()) {
+    if (!file_.IsOpen() || !firstFailure_.IsOk()) {
         return;
     }
     buffer_ += ToBytes(line) + LineEnd;

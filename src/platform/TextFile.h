@@ -23,11 +23,13 @@ enum class Fallback {
 };
 
 // Reads all lines of a text file. Takes CRLF and LF (and a mix); the last line may lack its end; a byte order
-// mark is dropped. An empty file gives no lines. Empty optional if the file can't be read, or is a folder.
+// mark is dropped. An empty file gives no lines. Empty optional if the file can't be read, is no plain file,
+// or has more than 256 MiB, which no text of ours comes near.
 std::optional<QStringList> ReadLines(const QString& path, Fallback fallback = Fallback::Windows1252);
 
 // Writes a document whole or not at all: into a temporary file beside `path`, which then replaces it.
-// Whatever fails (no folder, no permission, a full disk), an existing file at `path` stays as it was.
+// Whatever fails (no folder, no permission, a full disk), an existing file at `path` stays as it was. A
+// read-only file and anything but a plain file are refused; a link is written through.
 Status WriteDocument(const QString& path, const QStringList& lines);
 
 // A text file that grows line by line, for run logs. What was written before a failure stays written.
@@ -43,7 +45,7 @@ public:
     // the system allows, and every WriteLine is dropped.
     Status Create(const QString& path);
 
-    // Appends a line and its end. Buffered; failures are kept for Close.
+    // Appends a line and its end. Buffered; failures are kept for Close, and what follows one is dropped.
     void WriteLine(const QString& line);
 
     // Writes out the rest and closes. The first failure since Create, if any.
