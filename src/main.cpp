@@ -6,11 +6,13 @@
 #include "documents/RenameDocument.h"
 #include "platform/CommandTail.h"
 #include "workspace/CommandLine.h"
+#include "workspace/ui/ReadableStyle.h"
 #include "workspace/ui/WindowHost.h"
 #include "workspace/ui/frmRenamer.h"
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QStyle>
 
 namespace {
 
@@ -29,9 +31,10 @@ struct Program
 };
 
 // Needs no display: no window object is made.
-int RunSilentDrop(int argc, char** argv, const QStringList& items)
+int RunSilentDrop(char* programName, const QStringList& items)
 {
-    const QCoreApplication application(argc, argv);
+    int argc = 1;
+    const QCoreApplication application(argc, &programName);
     model::SilentHost host;
     Program program(host);
     app::PrepareDrop(items, program.workspace, program.mainList, program.state);
@@ -40,35 +43,43 @@ int RunSilentDrop(int argc, char** argv, const QStringList& items)
 }
 
 // Lets a person choose the files to rename, and hands them over to the workspace.
-void ChooseFiles(QWidget& window, Program& program)
+void ChooseFiles(QWidget& window, Program& program, bool hasCommandLine)
 {
     const QStringList chosen =
         QFileDialog::getOpenFileNames(&window, QFileDialog::tr("Select Files to Rename"));
     if (!chosen.isEmpty()) {
-        app::HandOverFiles(chosen, program.mainList, program.state);
-        program.workspace.RefillIfChanged(false);
+        platform::FileSystem files;
+        program.mainList.Clear();
+        for (const QString& path : chosen) {
+            const qsizetype nameAt = path.lastIndexOf(platform::PathSeparator) + 1;
+            program.mainList.AddFile(path.left(nameAt), path.mid(nameAt), files);
+        }
+        app::CheckAllFiles(program.mainList, program.state);
+        program.workspace.RefillIfChanged(hasCommandLine);
     }
 }
 
 // Shows the rename workspace: empty, with the files of a list start, or with a rename drop that is to be
 // confirmed.
-int RunWorkspace(int argc, char** argv, workspace::Start start, const QString& commandLine)
+int RunWorkspace(char* programName, workspace::Start start, const QString& commandLine)
 {
-    QApplication application(argc, argv);
+    int argc = 1; // the arguments are files and recipes; none of them is for the toolkit
+    QApplication application(argc, &programName);
+    QApplication::setStyle(new workspace::ReadableStyle(QApplication::style()->name()));
     workspace::WindowHost host;
     Program program(host);
     workspace::frmRenamer* shown = nullptr;
-    workspace::frmRenamer window(program.workspace, program.state, program.random,
-                                 {
-                                     .createDrop =
-                                         [&program](const QString& path) {
-                                             return documents::SaveRenameDrop(program.workspace.options,
-                                                                              path);
-                                         },
-                                     .manage = {},
-                                     .fileSelection = [&shown, &program] { ChooseFiles(*shown, program); },
-                                     .closed = &QApplication::quit,
-                                 });
+    workspace::frmRenamer window(
+        program.workspace, program.state, program.random,
+        {
+            .createDrop =
+                [&program](const QString& path) {
+                    return documents::SaveRenameDrop(program.workspace.options, path);
+                },
+            .manage = {},
+            .fileSelection = [&] { ChooseFiles(*shown, program, !commandLine.isEmpty()); },
+            .closed = &QApplication::quit,
+        });
     shown = &window;
     host.Attach(window.HostControls());
     window.show();
@@ -93,7 +104,7 @@ int main(int argc, char** argv)
     const workspace::Start start = workspace::ChooseStart(commandLine);
     const bool asks = app::ReadShowRenameDrop(platform::ProgramFolder::OfThisProcess()) == 1;
     if (start == workspace::Start::Drop && !asks) {
-        return RunSilentDrop(argc, argv, workspace::ParseDropCommandLine(commandLine));
+        return RunSilentDrop(argv[0], workspace::ParseDropCommandLine(commandLine));
     }
-    return RunWorkspace(argc, argv, start, commandLine);
+    return RunWorkspace(argv[0], start, commandLine);
 }

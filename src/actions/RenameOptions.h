@@ -2,7 +2,7 @@
 //
 // RenameOptions: all that a person sets in the rename workspace, as plain values. To the logic a control is
 // the value of that name, so members are named and defaulted like the controls; windows bind widgets to them,
-// documents store them, and a run compiles them once (CompiledActions.h). Nothing here reads a widget.
+// documents store them, and a run compiles them once (ActionHandler.h). Nothing here reads a widget.
 #pragma once
 
 #include "model/ActionKind.h"

@@ -16,6 +16,11 @@ void HandOverFiles(const QStringList& items, fileview::FileList& mainList, model
     for (const QString& item : items) {
         mainList.AddFile(workspace::SplitPathPart(item, true), workspace::SplitPathPart(item, false), files);
     }
+    CheckAllFiles(mainList, state);
+}
+
+void CheckAllFiles(fileview::FileList& mainList, model::AppState& state)
+{
     mainList.SetCheckedAll(true);
     state.CheckedCount = mainList.CheckedCount();
     state.FileListChanged = true;

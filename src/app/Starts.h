@@ -14,6 +14,9 @@ namespace app {
 // CheckedCount and FileListChanged.
 void HandOverFiles(const QStringList& items, fileview::FileList& mainList, model::AppState& state);
 
+// Checks all rows of the main list. Sets CheckedCount and FileListChanged.
+void CheckAllFiles(fileview::FileList& mainList, model::AppState& state);
+
 // A drop start up to its preview: item 0 is the rename drop file, whatever its extension, the others are the
 // files. Fills the workspace, loads the recipe and runs the preview.
 void PrepareDrop(const QStringList& items, workspace::RenameWorkspace& workspace,

@@ -15,6 +15,9 @@ namespace {
 
 constexpr int StoredActions = model::ActionKindCount;
 
+// Bytes. A document has a few kilobytes; what is larger was handed over by mistake, a film for a recipe.
+constexpr qint64 LargestDocument = 1024 * 1024;
+
 // Turns options into lines.
 class Saver
 {
@@ -145,7 +148,7 @@ platform::Status SaveRenameDrop(const actions::RenameOptions& options, const QSt
 platform::Status LoadRenameConfig(actions::RenameOptions& options, const QString& path)
 {
     EmptyActionList(options);
-    auto lines = platform::ReadLines(path);
+    auto lines = platform::ReadLines(path, platform::Fallback::Windows1252, LargestDocument);
     if (!lines || lines->isEmpty() || lines->takeFirst() != RenameConfigHeader) {
         return platform::Status::Failure(QStringLiteral("Invalid File"));
     }
@@ -156,7 +159,7 @@ platform::Status LoadRenameConfig(actions::RenameOptions& options, const QString
 void LoadRnp(actions::RenameOptions& options, const QString& path)
 {
     EmptyActionList(options);
-    if (const auto lines = platform::ReadLines(path)) {
+    if (const auto lines = platform::ReadLines(path, platform::Fallback::Windows1252, LargestDocument)) {
         SetFromLines(options, *lines, RecipeForm::Drop);
     }
 }

@@ -26,8 +26,8 @@ platform::Status SaveRenameDrop(const actions::RenameOptions& options, const QSt
 // were.
 platform::Status LoadRenameConfig(actions::RenameOptions& options, const QString& path);
 
-// Reads a .rnp into `options`, in the same way but with no header to check. A file that can't be read leaves
-// the action list empty and all else as it was.
+// Reads a .rnp into `options`, in the same way but with no header to check. A file that can't be read, or
+// has more than 1 MiB, leaves the action list empty and all else as it was.
 void LoadRnp(actions::RenameOptions& options, const QString& path);
 
 } // namespace documents

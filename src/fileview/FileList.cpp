@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "fileview/FileList.h"
 
+#include "model/GetFName.h"
+
 #include <algorithm>
 
 namespace fileview {
@@ -12,7 +14,7 @@ void FileList::AddFile(const QString& folder, const QString& name, platform::Fil
     // Files come folder by folder: rows of one folder share its text.
     row.Path = !rows_.empty() && rows_.back().Path == folder ? rows_.back().Path : folder;
     if (const auto info = files.GetInfo(folder, name)) {
-        row.Type = info->isFolder ? platform::FolderTypeText : types_.OfFile(name);
+        row.Type = info->isFolder ? model::FileFolder : types_.OfFile(name);
         row.size = info->size;
         row.modified = info->modified;
     }

@@ -25,7 +25,7 @@ struct AppState
 {
     int CheckedCount = 0;         // checked rows of the main list
     bool FileListChanged = false; // the main list differs from what the rename grid holds
-    bool DropStart = false;       // a rename drop runs; the windows stay hidden
+    bool DropStart = false;       // a rename drop runs; there is no main window
     bool SkipNextFolderEvent = false;
     int OnTopState = 0; // 1: the window that asked for it stays above others
 

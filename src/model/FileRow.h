@@ -13,8 +13,8 @@ namespace model {
 struct FileRow
 {
     QString Text; // the file name
-    QString
-        Path; // its folder, with a trailing separator; empty for a bare name. The full name is Path & Text
+    // Its folder, with a trailing separator; empty for a bare name. The full name is Path & Text.
+    QString Path;
     QString Type;    // the type text; "File Folder" marks a folder; empty if the file wasn't found
     qint64 size = 0; // bytes
     std::optional<qint64> modified; // seconds since the epoch; none if the file wasn't found

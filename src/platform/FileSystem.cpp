@@ -52,7 +52,7 @@ Status FailureOfMove(int error, const Place& from, bool isFolder)
         if (!Exists(from)) {
             return Missing(from, isFolder);
         }
-        return Status::Failure(QStringLiteral("A folder can't be moved to another disk"));
+        return Status::Failure(QStringLiteral("This folder can't be moved there"));
     case EOPNOTSUPP:
         return Status::Failure(
             QStringLiteral("This file system can't rename without the risk of overwriting"));
@@ -150,8 +150,8 @@ Status FileSystem::Move(const QString& folder, const QString& name, const QStrin
     const int error =
         RenameWithoutReplacing(descriptor, from->constData(), descriptor, to->constData(), isFolder);
     if (error == 0) {
-        if (isFolder && !arePlain) {
-            CloseFolder(); // it may be below the one that was moved
+        if (!arePlain) {
+            CloseFolder(); // what moved may have been a folder above it
         }
         return {};
     }

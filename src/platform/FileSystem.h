@@ -58,6 +58,7 @@ public:
     // copied to a temporary name beside the target, synced, renamed there without replacing, and only then is
     // the source removed; half a failure leaves the source whole and no target. Where the file system takes
     // "a.JPG" and "a.jpg" for one name, a change of case goes by way of a temporary name.
+    // What kind of entry the name is isn't looked up: a row's type decides which of the two is called.
     Status MoveFile(const QString& folder, const QString& name, const QString& newName);
 
     // The same for a folder with all that is in it; a missing source is "Path not found". It refuses to move

@@ -18,19 +18,19 @@ namespace platform {
 namespace {
 
 constexpr int BufferSize = 64 * 1024;
-constexpr qsizetype MaximumSize = 256 * 1024 * 1024; // bytes of a file that is read
 
 const QByteArray LineEnd = QByteArrayLiteral("\r\n");
 
-// Content of a plain file; empty optional for anything else. Never blocks on a pipe or device.
-std::optional<QByteArray> ReadAll(const QString& path)
+// Content of a plain file of at most `maximumSize` bytes; empty optional for anything else. Never blocks on a
+// pipe or device.
+std::optional<QByteArray> ReadAll(const QString& path, qint64 maximumSize)
 {
     const auto bytes = ToPath(path);
     const Descriptor file(bytes ? ::open(bytes->constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK) : -1);
     struct stat info
     {};
     if (!file.IsOpen() || ::fstat(file.Number(), &info) != 0 || !S_ISREG(info.st_mode) ||
-        info.st_size > MaximumSize) {
+        info.st_size > maximumSize) {
         return std::nullopt;
     }
     QByteArray content;
@@ -44,7 +44,7 @@ std::optional<QByteArray> ReadAll(const QString& path)
             return std::nullopt;
         }
         content.append(block.data(), std::max<ssize_t>(0, count));
-        if (content.size() > MaximumSize) {
+        if (content.size() > maximumSize) {
             return std::nullopt;
         }
     }
@@ -85,9 +85,9 @@ QByteArray ResolveLink(const QByteArray& path)
 
 } // namespace
 
-std::optional<QStringList> ReadLines(const QString& path, Fallback fallback)
+std::optional<QStringList> ReadLines(const QString& path, Fallback fallback, qint64 maximumSize)
 {
-    auto bytes = ReadAll(path);
+    auto bytes = ReadAll(path, maximumSize);
     if (!bytes) {
         return std::nullopt;
     }

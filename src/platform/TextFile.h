@@ -24,12 +24,15 @@ enum class Fallback {
 
 // Reads all lines of a text file. Takes CRLF and LF (and a mix); the last line may lack its end; a byte order
 // mark is dropped. An empty file gives no lines. Empty optional if the file can't be read, is no plain file,
-// or has more than 256 MiB, which no text of ours comes near.
-std::optional<QStringList> ReadLines(const QString& path, Fallback fallback = Fallback::Windows1252);
+// or has more than `maximumSize` bytes: a person may hand over any file as a document.
+inline constexpr qint64 LargestText = 256 * 1024 * 1024; // more than any text of ours
+std::optional<QStringList> ReadLines(const QString& path, Fallback fallback = Fallback::Windows1252,
+                                     qint64 maximumSize = LargestText);
 
 // Writes a document whole or not at all: into a temporary file beside `path`, which then replaces it.
 // Whatever fails (no folder, no permission, a full disk), an existing file at `path` stays as it was. A
-// read-only file and anything but a plain file are refused; a link is written through.
+// read-only file and anything but a plain file are refused; a link is written through, one that leads nowhere
+// is replaced.
 Status WriteDocument(const QString& path, const QStringList& lines);
 
 // A text file that grows line by line, for run logs. What was written before a failure stays written.

@@ -9,9 +9,6 @@
 
 namespace platform {
 
-// The type text of every folder. Compared exactly throughout the program.
-inline const QString FolderTypeText = QStringLiteral("File Folder");
-
 // The type text of JPEG pictures, whatever the MIME database calls them.
 inline const QString JpegTypeText = QStringLiteral("JPEG Image");
 

@@ -74,7 +74,7 @@ SortItem ItemOf(const model::RenameRow& row, int index, int column, SortKind kin
 {
     switch (kind) {
     case SortKind::Number:
-        return {index, column == GridPre::Size ? row.size : TextOf(row, column).toLongLong(), {}};
+        return {index, row.size, {}}; // the one column of numbers
     case SortKind::Date:
         return {index, DateKey(row, column), {}};
     case SortKind::Text:
@@ -137,11 +137,6 @@ void GridPre::SetPreview(int row, const QString& text)
 void GridPre::SetState(int row, model::ValidationState state)
 {
     Changed(row).state = state;
-}
-
-void GridPre::SetPictureTakenDate(int row, const QString& text)
-{
-    Changed(row).pictureTakenDate = text;
 }
 
 void GridPre::PromotePreviews()
@@ -240,7 +235,7 @@ QVariant GridPre::headerData(int section, Qt::Orientation orientation, int role)
 
 Qt::ItemFlags GridPre::flags(const QModelIndex& index) const
 {
-    Qt::ItemFlags flags = QAbstractTableModel::flags(index) | Qt::ItemNeverHasChildren;
+    Qt::ItemFlags flags = QAbstractTableModel::flags(index);
     flags.setFlag(Qt::ItemIsEditable, index.isValid() && index.column() + 1 == Preview);
     return flags;
 }

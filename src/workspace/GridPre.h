@@ -50,7 +50,6 @@ public:
     // Announced by AnnounceChanges.
     void SetPreview(int row, const QString& text);
     void SetState(int row, model::ValidationState state);
-    void SetPictureTakenDate(int row, const QString& text);
 
     // Makes every non-empty Preview the row's Original and empties it. Announced by AnnounceChanges.
     void PromotePreviews();

@@ -79,6 +79,9 @@ void RenameWorkspace::RunPreview()
             context.name = handler->NewName(context);
             host_.Yield();
         }
+        if (handlers.empty()) {
+            host_.Yield();
+        }
         if (row <= grid.RowCount()) {
             grid.SetPreview(row, context.name);
         }

@@ -89,8 +89,8 @@ private:
 
 QString FolderNameOf(const QString& path, QChar separator)
 {
-    // A separator within the first two characters is that of a root and parts no folder from its parent.
-    constexpr qsizetype firstParting = 2;
+    // The first place where a root may end: "/" is one itself, a drive's root ends with its third character.
+    const qsizetype firstParting = separator == u'/' ? 0 : 2;
     const qsizetype last = path.size() - 1;
     const qsizetype parting = last < 1 ? -1 : path.lastIndexOf(separator, last - 1);
     return parting < firstParting ? QString() : path.mid(parting + 1, last - parting - 1);

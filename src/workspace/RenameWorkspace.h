@@ -7,7 +7,9 @@
 //
 // What always holds:
 //  1. The full name of a row is its Path & Original; nothing else links a row to the disk.
-//  2. Long loops tell their progress to the RunHost and yield once a row, all but the execution's row loop.
+//  2. Loops over rows tell their progress to the RunHost and yield once a row. Execution and what belongs to
+//  it (normal
+//     attributes, refreshing the main list) yield to nobody.
 //  3. One thread. A command started while another one yields runs nested; nothing guards against it.
 #pragma once
 
@@ -110,8 +112,8 @@ private:
     bool previewDone_ = false;
 };
 
-// The last component of a folder path that ends with `separator`. Empty for a path that is a root and one
-// folder ("/a/") or less, as for a drive's root.
+// The last component of a folder path that ends with `separator`; empty for a root, and for a relative path
+// of one component.
 QString FolderNameOf(const QString& path, QChar separator = platform::PathSeparator);
 
 } // namespace workspace

@@ -25,14 +25,15 @@ void ShowBlocksOf(const QString& entry, actions::ValueControls& value)
     }
 }
 
-QGroupBox* NewBlockFrame(QLatin1String name, const QString& caption, QWidget* block, const bool& shown,
-                         Binder& binder)
+// The frame gets its place before it is put on show, or it would be a window of its own for a moment.
+QGroupBox* AddBlockFrame(QVBoxLayout& column, QLatin1String name, const QString& caption, QWidget* block,
+                         const bool& shown, Binder& binder)
 {
     QGroupBox* frame = NewFrame(name, caption);
     ColumnOf(*frame).addWidget(block);
     MarkAsAlternative(*frame);
-    frame->hide();
-    binder.OnShow([frame, &shown] { frame->setHidden(!shown); });
+    column.addWidget(frame);
+    binder.Shown(*frame, shown);
     return frame;
 }
 
@@ -53,22 +54,18 @@ ValueParts NewValue(const ActionControls& names, actions::ValueControls& value, 
     auto* blocks = new QWidget;
     auto* column = new QVBoxLayout(blocks);
     column->setContentsMargins({});
-    Binder& binder = tools.binder;
     const auto title = [](const char* text) {
         return QCoreApplication::translate("ValueBlocks", text);
     };
     QGroupBox* counter =
-        NewBlockFrame(names.counterFrame, title(QT_TRANSLATE_NOOP("ValueBlocks", "Counter")),
-                      new CounterBlockWidget(names, value.counter, tools), value.frameCVisible, binder);
-    QGroupBox* letters =
-        NewBlockFrame(names.letterFrame, title(QT_TRANSLATE_NOOP("ValueBlocks", "Alpha Counter")),
-                      new AlphaCounterBlockWidget(names, value.letters, tools), value.frameAVisible, binder);
+        AddBlockFrame(*column, names.counterFrame, title(QT_TRANSLATE_NOOP("ValueBlocks", "Counter")),
+                      new CounterBlockWidget(names, value.counter, tools), value.frameCVisible, tools.binder);
+    QGroupBox* letters = AddBlockFrame(
+        *column, names.letterFrame, title(QT_TRANSLATE_NOOP("ValueBlocks", "Alpha Counter")),
+        new AlphaCounterBlockWidget(names, value.letters, tools), value.frameAVisible, tools.binder);
     QGroupBox* mask =
-        NewBlockFrame(names.maskFrame, title(QT_TRANSLATE_NOOP("ValueBlocks", "Random String")),
-                      new MaskBlockWidget(names, value.mask, help, tools), value.frameRVisible, binder);
-    for (QGroupBox* frame : {counter, letters, mask}) {
-        column->addWidget(frame);
-    }
+        AddBlockFrame(*column, names.maskFrame, title(QT_TRANSLATE_NOOP("ValueBlocks", "Random String")),
+                      new MaskBlockWidget(names, value.mask, help, tools), value.frameRVisible, tools.binder);
     QObject::connect(combo, &QComboBox::textActivated, blocks, [=, &value](const QString& entry) {
         ShowBlocksOf(entry, value);
         counter->setVisible(value.frameCVisible);
