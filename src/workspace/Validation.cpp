@@ -6,8 +6,6 @@
 // pairs.
 #include "workspace/RenameWorkspace.h"
 
-#include <QHash>
-
 #include <algorithm>
 
 namespace workspace {
@@ -16,22 +14,66 @@ namespace {
 
 constexpr int NoPartner = 0;
 
-// For each row, the row behind it that it forms a pair with, or NoPartner; both from 1. The target is the
-// whole path, compared exactly.
+// A row's place among all rows of its target.
+struct TargetKey
+{
+    quint64 hash; // of Path & Preview
+    int row;      // from 1
+};
+
+// Continues the FNV-1a hash of a text by another text: the hash of Path & Preview needs no joined copy.
+quint64 HashOn(quint64 hash, const QString& text)
+{
+    for (const QChar unit : text) {
+        hash = (hash ^ unit.unicode()) * 0x100000001B3ULL;
+    }
+    return hash;
+}
+
+std::vector<TargetKey> KeysOf(const GridPre& grid)
+{
+    constexpr quint64 emptyHash = 0xCBF29CE484222325ULL;
+    std::vector<TargetKey> keys;
+    keys.reserve(static_cast<std::size_t>(grid.RowCount()));
+    QString path;
+    quint64 pathHash = emptyHash;
+    for (int row = 1; row <= grid.RowCount(); ++row) {
+        const model::RenameRow& data = grid.Row(row);
+        if (data.path != path) {
+            path = data.path;
+            pathHash = HashOn(emptyHash, path);
+        }
+        keys.push_back({HashOn(pathHash, data.preview), row});
+    }
+    return keys;
+}
+
+// Compares whole targets exactly: below, at or above 0.
+int CompareTargets(const model::RenameRow& a, const model::RenameRow& b)
+{
+    return a.path == b.path ? a.preview.compare(b.preview) : (a.path + a.preview).compare(b.path + b.preview);
+}
+
+// For each row, the row behind it that it forms a pair with, or NoPartner; both from 1. Rows of one target
+// come to stand together, in grid order, by sorting their hashes, which stays near linear in time where a
+// table of texts outgrows the cache.
 std::vector<int> PairsOf(const GridPre& grid)
 {
-    const int rowCount = grid.RowCount();
-    std::vector<int> partner(static_cast<std::size_t>(rowCount) + 1, NoPartner);
-    QHash<QString, int> waiting; // target -> the row that has no partner yet
-    waiting.reserve(rowCount);
-    for (int row = 1; row <= rowCount; ++row) {
-        const model::RenameRow& data = grid.Row(row);
-        int& earlier = waiting[data.path + data.preview];
-        if (earlier == NoPartner) {
-            earlier = row;
-        } else {
-            partner[static_cast<std::size_t>(earlier)] = row;
-            earlier = NoPartner;
+    std::vector<TargetKey> keys = KeysOf(grid);
+    std::sort(keys.begin(), keys.end(), [&grid](const TargetKey& a, const TargetKey& b) {
+        if (a.hash != b.hash) {
+            return a.hash < b.hash;
+        }
+        const int order = CompareTargets(grid.Row(a.row), grid.Row(b.row));
+        return order != 0 ? order < 0 : a.row < b.row;
+    });
+    std::vector<int> partner(keys.size() + 1, NoPartner);
+    for (std::size_t i = 0; i + 1 < keys.size(); ++i) {
+        const TargetKey& first = keys[i];
+        const TargetKey& second = keys[i + 1];
+        if (first.hash == second.hash && CompareTargets(grid.Row(first.row), grid.Row(second.row)) == 0) {
+            partner[static_cast<std::size_t>(first.row)] = second.row;
+            ++i;
         }
     }
     return partner;

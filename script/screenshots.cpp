@@ -1,0 +1,211 @@
+// SPDX-License-Identifier: MIT
+//
+// Writes the pictures of the documentation: the rename workspace with each panel, and the run log. What they
+// show is made up here, in a temporary folder, and is the same each time.
+//
+//   quillmark_screenshots FOLDER [--dark] [--size 800x600]
+//
+// QT_SCALE_FACTOR=2 gives them as on a screen of 200 percent.
+#include "fileview/FileList.h"
+#include "platform/TextFile.h"
+#include "workspace/ui/ReadableStyle.h"
+#include "workspace/ui/frmLog.h"
+#include "workspace/ui/frmRenamer.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QLocale>
+#include <QTemporaryDir>
+#include <QTextStream>
+
+namespace {
+
+using model::ActionKind;
+
+const QStringList SampleNames{QStringLiteral("IMG_4031.JPG"),    QStringLiteral("IMG_4032.JPG"),
+                              QStringLiteral("IMG_4033.JPG"),    QStringLiteral("IMG_4034.JPG"),
+                              QStringLiteral("IMG_4037.JPG"),    QStringLiteral("IMG_4040.JPG"),
+                              QStringLiteral("Tram 28.jpeg"),    QStringLiteral("sunset at the river.JPG"),
+                              QStringLiteral("packing list.txt")};
+
+QPalette DarkPalette()
+{
+    QPalette dark;
+    const QColor window(0x2d, 0x2f, 0x33);
+    dark.setColor(QPalette::Window, window);
+    dark.setColor(QPalette::Button, QColor(0x3a, 0x3d, 0x42));
+    dark.setColor(QPalette::Base, QColor(0x1f, 0x21, 0x24));
+    dark.setColor(QPalette::AlternateBase, window);
+    dark.setColor(QPalette::ToolTipBase, window);
+    for (const auto role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText}) {
+        dark.setColor(role, QColor(0xe6, 0xe6, 0xe6));
+        dark.setColor(QPalette::Disabled, role, QColor(0x80, 0x83, 0x88));
+    }
+    dark.setColor(QPalette::PlaceholderText, QColor(0xa0, 0xa3, 0xa8));
+    dark.setColor(QPalette::Highlight, QColor(0x3d, 0x7e, 0xc8));
+    dark.setColor(QPalette::HighlightedText, Qt::white);
+    return dark;
+}
+
+// A workspace with sample rows, and its window.
+class Studio
+{
+public:
+    explicit Studio(QString outFolder) : outFolder_(std::move(outFolder)), programFolder_(folder_.path())
+    {
+        const QString path = folder_.path() + QLatin1String("/Lisbon/");
+        QDir().mkpath(path);
+        platform::FileSystem files;
+        for (const QString& name : SampleNames) {
+            QFile(path + name).open(QIODevice::WriteOnly);
+            list_.AddFile(path, name, files);
+        }
+        list_.SetCheckedAll(true);
+        state_.CheckedCount = list_.Count();
+        state_.AutoValidate = 1;
+        host_.Attach(window_.HostControls());
+        workspace_.Refreshrnm();
+        FillOptions();
+        window_.ShowOptions();
+    }
+
+    void Resize(const QSize& size) { window_.resize(size); }
+
+    // The window with the panel of `kind`.
+    void ShootPanel(ActionKind kind)
+    {
+        Show(kind);
+        const QString name = model::NameOf(kind).toLower().replace(QLatin1Char(' '), QLatin1Char('-'));
+        Shoot(window_, QLatin1String("workspace-") + name);
+    }
+
+    // A preview, two names written by hand, and what the validation says.
+    void ShootHero()
+    {
+        Select({ActionKind::ReplaceAll, ActionKind::Extension});
+        Show(ActionKind::ReplaceAll);
+        workspace_.cmdPreview_Click();
+        workspace_.grid.SetPreview(5, workspace_.grid.Row(4).preview);
+        workspace_.grid.SetPreview(9, workspace_.grid.Row(9).original);
+        workspace_.cmdValidate_Click();
+        workspace_.grid.AnnounceChanges();
+        Shoot(window_, QStringLiteral("workspace"));
+    }
+
+    void ShootLog()
+    {
+        const QString path = folder_.path() + QLatin1String("/templog.log");
+        QStringList lines;
+        for (int row = 1; row <= workspace_.grid.RowCount(); ++row) {
+            const QString result =
+                row == 5 ? QStringLiteral("File already exists") : QStringLiteral("Rename Successful");
+            lines << QStringList{QStringLiteral("/home/lisa/Pictures/Lisbon/"),
+                                 workspace_.grid.Row(row).original, workspace_.grid.Row(row).preview, result}
+                         .join(QLatin1String(" : "));
+        }
+        if (platform::WriteDocument(path, lines).IsOk()) {
+            workspace::frmLog log(path);
+            Shoot(log, QStringLiteral("log"));
+        }
+    }
+
+private:
+    void FillOptions()
+    {
+        actions::RenameOptions& options = workspace_.options;
+        options.replaceFirst.cmbFirst.combo = QStringLiteral("$Random String$");
+        options.replaceFirst.cmbFirst.frameRVisible = true;
+        options.replaceMid.cmbMid.combo = QStringLiteral("$Upper_Case$");
+        options.replaceLast.cmbLast.combo = QStringLiteral("$AlphaCounter$");
+        options.replaceLast.cmbLast.frameAVisible = true;
+        options.replaceAll.cmbAll.combo = QStringLiteral("$Counter$");
+        options.replaceAll.cmbAll.frameCVisible = true;
+        options.replaceAll.cmbAll.counter.text[actions::CounterBlock::Prefix] = QStringLiteral("Lisbon ");
+        options.insert.cmbInsert = actions::InsertOptions::Modes().last();
+        options.insert.cmbInsertS.combo = QStringLiteral("$Random String$");
+        options.insert.cmbInsertS.frameRVisible = true;
+        options.suffix.cmbSuffix.combo = QStringLiteral("$AlphaCounter$");
+        options.suffix.cmbSuffix.frameAVisible = true;
+        options.prefix.cmbPrefix.combo = QStringLiteral("$Counter$");
+        options.prefix.cmbPrefix.frameCVisible = true;
+        options.extension.change.Set(actions::ExtensionOptions::Option41, true);
+        options.clean.chkDigit = options.clean.Check12 = options.clean.Check3 = true;
+        options.compose.cmbCompose.combo = QStringLiteral("$Counter$");
+        options.compose.cmbCompose.frameCVisible = true;
+        options.compose.lstCompose =
+            QStringList{QStringLiteral("$foldername$"), QStringLiteral(" - "), QStringLiteral("$Counter$")};
+    }
+
+    void Select(std::initializer_list<ActionKind> kinds)
+    {
+        for (const ActionKind kind : kinds) {
+            workspace_.options.List3.entries[static_cast<std::size_t>(kind)].Selected = true;
+        }
+    }
+
+    void Show(ActionKind kind)
+    {
+        workspace_.options.List3.currentIndex = static_cast<int>(kind);
+        window_.ShowOptions();
+    }
+
+    void Shoot(QWidget& window, const QString& name)
+    {
+        window.show();
+        QCoreApplication::processEvents();
+        const QString path = outFolder_ + QLatin1Char('/') + name + QLatin1String(".png");
+        if (!window.grab().save(path)) {
+            QTextStream(stderr) << "Can't write " << path << '\n';
+            std::exit(1);
+        }
+    }
+
+    QString outFolder_;
+    QTemporaryDir folder_;
+    model::AppState state_;
+    fileview::FileList list_;
+    workspace::WindowHost host_;
+    model::Clock clock_;
+    model::RandomSource random_;
+    platform::ProgramFolder programFolder_;
+    workspace::RenameWorkspace workspace_{{state_, list_, host_, clock_, random_, programFolder_}};
+    workspace::frmRenamer window_{workspace_,
+                                  state_,
+                                  random_,
+                                  {[](const QString&) { return platform::Status(); }, [] {}, [] {},
+                                   [] {
+                                   }}};
+};
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QLocale::setDefault(QLocale::c());
+    QApplication application(argc, argv);
+    const QStringList arguments = QApplication::arguments();
+    if (arguments.size() < 2) {
+        QTextStream(stderr) << "usage: quillmark_screenshots FOLDER [--dark] [--size WIDTHxHEIGHT]\n";
+        return 2;
+    }
+    QApplication::setStyle(new workspace::ReadableStyle(QStringLiteral("Fusion")));
+    QApplication::setFont(QFont(QStringLiteral("Noto Sans"), 10));
+    if (arguments.contains(QLatin1String("--dark"))) {
+        QApplication::setPalette(DarkPalette());
+    }
+    Studio studio(arguments[1]);
+    const qsizetype size = arguments.indexOf(QLatin1String("--size"));
+    if (size > 0 && size + 1 < arguments.size()) {
+        const QStringList sides = arguments[size + 1].split(QLatin1Char('x'));
+        studio.Resize(QSize(sides.first().toInt(), sides.last().toInt()));
+    }
+    for (const ActionKind kind : model::AllActionKinds) {
+        studio.ShootPanel(kind);
+    }
+    studio.ShootHero();
+    studio.ShootLog();
+    return 0;
+}

@@ -1,0 +1,265 @@
+// SPDX-License-Identifier: MIT
+//
+// The commands of the window, from a person's click to the disk: names come out as previewed or as edited by
+// hand, STOP stops, and nothing is renamed that nobody saw.
+#include "Desk.h"
+#include "workspace/ui/PreviewGrid.h"
+
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QDesktopServices>
+#include <QLabel>
+#include <QLineEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QTableView>
+#include <QTimer>
+#include <QUrl>
+
+namespace {
+
+using model::ActionKind;
+using ui_tests::Desk;
+
+QStringList List(std::initializer_list<const char*> texts)
+{
+    QStringList list;
+    for (const char* text : texts) {
+        list << QString::fromUtf8(text);
+    }
+    return list;
+}
+
+// A desk over these files on which capitals were previewed.
+class CapitalsDesk : public Desk
+{
+public:
+    explicit CapitalsDesk(const QStringList& names) : Desk(names)
+    {
+        Click("cmdRefresh");
+        GoTo(ActionKind::ReplaceAll, true);
+        Type("cmbAll", "$Upper_Case$");
+        Click("cmdPreview");
+    }
+
+    QTableView& Grid() const { return Find<QTableView>("GridPre"); }
+
+    QPoint CellAt(int row, int column) const
+    {
+        return Grid().visualRect(Grid().model()->index(row - 1, column - 1)).center();
+    }
+
+    // The box in which the Preview of `row` is edited, after a double click or a typed key.
+    QLineEdit& Edit(int row, Qt::Key key)
+    {
+        QTest::mouseClick(Grid().viewport(), Qt::LeftButton, {}, CellAt(row, workspace::GridPre::Preview));
+        if (key == Qt::Key_unknown) {
+            QTest::mouseDClick(Grid().viewport(), Qt::LeftButton, {},
+                               CellAt(row, workspace::GridPre::Preview));
+        } else {
+            QTest::keyClick(&Grid(), key);
+        }
+        return Find<QLineEdit>("txtEdit");
+    }
+};
+
+TEST(RenamerRun, RenamesOnDiskAsPreviewedAndAsEditedByHand)
+{
+    CapitalsDesk desk(List({"a.txt", "b.txt"}));
+    EXPECT_EQ(desk.Find<QLabel>("Label1").text(), QLatin1String("(2 Items)"));
+    EXPECT_EQ(desk.Previews(), List({"A.txt", "B.txt"}));
+    QLineEdit& box = desk.Edit(2, Qt::Key_unknown);
+    EXPECT_EQ(box.selectedText(), QLatin1String("B.txt"));
+    QTest::keyClicks(&box, QStringLiteral("hand.txt"));
+    QTest::keyClick(&box, Qt::Key_Return);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return desk.Previews() == List({"A.txt", "hand.txt"}); }));
+    QTest::keyClick(&desk.Edit(2, Qt::Key_Y), Qt::Key_R, Qt::AltModifier); // the edit in progress counts
+    EXPECT_TRUE(QTest::qWaitFor([&] { return desk.files.Exists(QStringLiteral("A.txt")); }));
+
+    EXPECT_EQ(desk.files.Names(), List({"A.txt", "yhand.txt"}));
+    EXPECT_EQ(desk.Column(workspace::GridPre::Original), List({"A.txt", "yhand.txt"}));
+    EXPECT_EQ(desk.Find<QLabel>("lblStatus").text(), QLatin1String("Ready"));
+    EXPECT_EQ(desk.Find<QProgressBar>("ProgBar").value(), 0);
+}
+
+TEST(RenamerRun, ATypedKeyStandsInFrontAndEscapeLeavesTheCell)
+{
+    CapitalsDesk desk(List({"a.txt"}));
+    QLineEdit& box = desk.Edit(1, Qt::Key_Q);
+    EXPECT_EQ(box.text(), QLatin1String("qA.txt"));
+    EXPECT_EQ(box.selectedText(), QLatin1String("A.txt"));
+    QTest::keyClick(&box, Qt::Key_Escape);
+    EXPECT_EQ(desk.Previews(), List({"A.txt"}));
+    // Delete types nothing, and originals aren't edited.
+    QTest::keyClick(&desk.Grid(), Qt::Key_Delete);
+    desk.Grid().setCurrentIndex(desk.Grid().model()->index(0, 0));
+    QTest::keyClick(&desk.Grid(), Qt::Key_Q);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !desk.window.findChild<QLineEdit*>(workspace::NameEditor); }));
+}
+
+TEST(RenamerRun, TheGridSharesItsWidthBetweenTwoColumns)
+{
+    CapitalsDesk desk(List({"a.txt"}));
+    for (const int width : {900, 1200}) {
+        desk.window.resize(width, 700);
+        EXPECT_TRUE(QTest::qWaitFor([&] {
+            const int both = desk.Grid().columnWidth(0) + desk.Grid().columnWidth(1);
+            return desk.Grid().viewport()->width() == both && both > width - 60;
+        })) << width;
+        EXPECT_LE(std::abs(desk.Grid().columnWidth(0) - desk.Grid().columnWidth(1)), 1);
+    }
+    EXPECT_TRUE(desk.Grid().isColumnHidden(2));
+}
+
+class UrlCatcher : public QObject
+{
+    Q_OBJECT
+
+public:
+    UrlCatcher() { QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "Catch"); }
+    ~UrlCatcher() override { QDesktopServices::unsetUrlHandler(QStringLiteral("file")); }
+
+    QList<QByteArray> urls;
+
+public Q_SLOTS:
+    void Catch(const QUrl& url) { urls << url.toEncoded(); }
+};
+
+TEST(RenamerRun, ADoubleClickOnAnOriginalOpensTheFileByItsBytes)
+{
+    UrlCatcher catcher;
+    CapitalsDesk desk(QStringList{QStringLiteral("50%#?\xDCE9 .txt")});
+    const QPoint original = desk.CellAt(1, workspace::GridPre::Original);
+    QTest::mouseClick(desk.Grid().viewport(), Qt::LeftButton, {}, original);
+    QTest::mouseDClick(desk.Grid().viewport(), Qt::LeftButton, {}, original);
+    ASSERT_EQ(catcher.urls.size(), 1);
+    EXPECT_EQ(catcher.urls.first(),
+              QByteArray("file://" + desk.files.Path().toUtf8() + "50%25%23%3F%E9%20.txt"));
+}
+
+TEST(RenamerRun, StopEndsThePreviewAfterTheRowInProgress)
+{
+    Desk desk;
+    std::vector<model::RenameRow> rows(3);
+    for (model::RenameRow& row : rows) {
+        row.original = QStringLiteral("a.txt");
+    }
+    desk.workspace.grid.SetRows(rows);
+    desk.GoTo(ActionKind::ReplaceAll, true);
+    desk.Type("cmbAll", "$Upper_Case$");
+    QTimer::singleShot(0, &desk.window,
+                       [&desk] { desk.Click("Command13"); }); // reaches the window during the run
+    QTest::keyClick(&desk.Use("cmdPreview"), Qt::Key_Space);
+    EXPECT_EQ(desk.Previews(), List({"A.txt", "", ""}));
+    EXPECT_TRUE(desk.state.StopFlag.IsSet());
+    EXPECT_EQ(desk.Find<QLabel>("lblStatus").text(), QLatin1String("Ready"));
+}
+
+TEST(RenamerRun, ClearEmptiesThePreviewsAndAsksForANewOne)
+{
+    CapitalsDesk desk(List({"a.txt"}));
+    desk.Click("cmdClear");
+    EXPECT_EQ(desk.Previews(), List({""}));
+    desk.Click("cmdExecute");
+    EXPECT_EQ(desk.answers.TakeMessages(), List({"Renamer: Please Preview first,then Execute"}));
+    EXPECT_EQ(desk.files.Names(), List({"a.txt"}));
+    desk.GoTo(ActionKind::ReplaceAll, true); // takes the mark off
+    desk.Click("cmdPreview");
+    EXPECT_EQ(desk.answers.TakeMessages(), List({"Renamer: Please Select Actions"}));
+}
+
+TEST(RenamerRun, TheSortComboOrdersTheRowsUntilTheyAreRefreshed)
+{
+    Desk desk(List({"b", "a", "c"}));
+    desk.Click("cmdRefresh");
+    auto& sort = desk.Find<QComboBox>("Combo1");
+    sort.setFocus();
+    QTest::keyClick(&sort, Qt::Key_Down);
+    EXPECT_EQ(desk.Column(workspace::GridPre::Original), List({"a", "b", "c"}));
+    QTest::keyClick(&sort, Qt::Key_Down);
+    EXPECT_EQ(desk.Column(workspace::GridPre::Original), List({"c", "b", "a"}));
+    EXPECT_EQ(sort.currentText(), QLatin1String("Name (Z-A)"));
+    desk.Click("cmdRefresh");
+    EXPECT_EQ(desk.Column(workspace::GridPre::Original), List({"b", "a", "c"}));
+    EXPECT_EQ(sort.currentIndex(), -1);
+}
+
+TEST(RenamerRun, ValidationPaintsTheCellsInTheLegendsColours)
+{
+    CapitalsDesk desk(List({"a.txt", "b.txt", "c.txt"}));
+    desk.Grid().model()->setData(desk.Grid().model()->index(1, 1), QStringLiteral("A.txt"), Qt::EditRole);
+    desk.Grid().model()->setData(desk.Grid().model()->index(2, 1), QStringLiteral("c.txt"), Qt::EditRole);
+    desk.Click("cmdValidate");
+    const QImage picture = desk.Grid().viewport()->grab().toImage();
+    QStringList colours;
+    for (int row = 1; row <= 3; ++row) {
+        colours << picture.pixelColor(desk.CellAt(row, workspace::GridPre::Preview)).name();
+    }
+    EXPECT_EQ(colours, List({"#ff0000", "#ff0000", "#00ffff"}));
+}
+
+TEST(RenamerWindow, LeavesByExitOnlyAndClearsTheStopFlagWhenItIsActivated)
+{
+    int closed = 0;
+    Desk desk({}, {{}, {}, {}, [&closed] {
+                       ++closed;
+                   }});
+    QCloseEvent fromTitleBar;
+    QSpontaneKeyEvent::setSpontaneous(&fromTitleBar);
+    qApp->notify(&desk.window, &fromTitleBar);
+    EXPECT_FALSE(fromTitleBar.isAccepted());
+    EXPECT_TRUE(desk.window.isVisible());
+    desk.Click("cmdClose");
+    EXPECT_FALSE(desk.window.isVisible());
+    EXPECT_EQ(closed, 1);
+    EXPECT_TRUE(desk.state.StopFlag.IsSet());
+    QWidget other;
+    other.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    EXPECT_TRUE(desk.state.StopFlag.IsSet());
+    desk.window.show();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !desk.state.StopFlag.IsSet(); }));
+}
+
+TEST(RenamerWindow, OnTopIsRememberedAndKeepsTheWindowOnShow)
+{
+    Desk desk;
+    QTest::keyClick(&desk.Use("chkOnTop"), Qt::Key_Space);
+    EXPECT_EQ(desk.state.OnTopState, 1);
+    EXPECT_TRUE(desk.window.windowFlags() & Qt::WindowStaysOnTopHint);
+    EXPECT_TRUE(desk.window.isVisible());
+    EXPECT_FALSE(desk.window.windowFlags() & Qt::WindowCloseButtonHint);
+    QTest::keyClick(&desk.Use("chkOnTop"), Qt::Key_Space);
+    EXPECT_EQ(desk.state.OnTopState, 0);
+}
+
+TEST(RenamerWindow, CommandsWithoutAnyoneToDoThemAreDisabled)
+{
+    Desk desk;
+    for (const char* name : {"Command12", "Command1", "Command14", "Command3", "cmdReplaceOptions"}) {
+        EXPECT_FALSE(desk.Find<QWidget>(name).isEnabled()) << name;
+    }
+}
+
+TEST(RenamerWindow, ADropIsWrittenWhereThePersonSaysAndAFailureIsShown)
+{
+    QStringList paths;
+    const auto createDrop = [&paths](const QString& path) {
+        paths << path;
+        return paths.size() == 1 ? platform::Status()
+                                 : platform::Status::Failure(QStringLiteral("Disk full"));
+    };
+    Desk desk({}, {createDrop, {}, {}, {}});
+    desk.Click("Command12"); // the dialog is cancelled
+    EXPECT_TRUE(paths.isEmpty());
+    desk.answers.fileToChoose = desk.files.Path() + QLatin1String("holiday");
+    desk.Click("Command12");
+    EXPECT_EQ(paths, QStringList{desk.files.Path() + QLatin1String("holiday.rnp")});
+    EXPECT_TRUE(desk.answers.TakeMessages().isEmpty());
+    desk.Click("Command12");
+    EXPECT_EQ(desk.answers.TakeMessages(), List({"Renamer: Disk full"}));
+}
+
+} // namespace
+
+#include "RenamerRunTest.moc"
