@@ -84,7 +84,7 @@ public:
     // A preview, two names written by hand, and what the validation says.
     void ShootHero()
     {
-        Select({ActionKind::ReplaceAll, ActionKind::Extension});
+        Select({ActionKind::ReplaceAll});
         Show(ActionKind::ReplaceAll);
         workspace_.cmdPreview_Click();
         workspace_.grid.SetPreview(5, workspace_.grid.Row(4).preview);

@@ -12,6 +12,7 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QScreen>
 #include <QStyle>
 
 namespace {
@@ -82,6 +83,8 @@ int RunWorkspace(char* programName, workspace::Start start, const QString& comma
         });
     shown = &window;
     host.Attach(window.HostControls());
+    const QRect screen = window.screen()->availableGeometry();
+    window.move(screen.center() - window.rect().center());
     window.show();
     if (start == workspace::Start::List) {
         program.state.SkipNextFolderEvent = true;
