@@ -8,135 +8,77 @@
 namespace {
 
 using namespace actions;
-using model::ActionKind;
 
-enum Action { First, Mid, Last, All };
+constexpr std::array Kinds{model::ActionKind::ReplaceFirst, model::ActionKind::ReplaceMid,
+                           model::ActionKind::ReplaceLast, model::ActionKind::ReplaceAll};
 
-struct Case
+// A table's words, which blanks part; "~" stands for an empty text.
+QStringList Words(const QString& table)
 {
-    Action action;
-    QString count, position, value, name, newName;
-    QString type;
-};
+    return table.split(u' ', Qt::SkipEmptyParts).replaceInStrings(u"~"_qs, QString());
+}
 
-// Sets the boxes of the case's action and runs it on the case's name; the counters stand where `states` says.
-QString NewName(const Case& row, CounterStates& states)
+// What an action with these boxes makes of a name; the counters start anew. my.dir is a folder.
+QString NewName(model::ActionKind action, const QStringList& boxes, const QString& name,
+                CounterStates& states)
 {
-    constexpr std::array kinds{ActionKind::ReplaceFirst, ActionKind::ReplaceMid, ActionKind::ReplaceLast,
-                               ActionKind::ReplaceAll};
     RenameOptions options;
-    options.replaceFirst.Text1 = options.replaceMid.Text12 = options.replaceLast.Text14 = row.count;
-    options.replaceMid.Text13 = row.position;
-    options.replaceFirst.cmbFirst.combo = options.replaceMid.cmbMid.combo = row.value;
-    options.replaceLast.cmbLast.combo = options.replaceAll.cmbAll.combo = row.value;
+    options.replaceFirst.Text1 = options.replaceMid.Text12 = options.replaceLast.Text14 = boxes[0];
+    options.replaceMid.Text13 = boxes[1];
+    options.replaceFirst.cmbFirst.combo = options.replaceMid.cmbMid.combo = boxes[2];
+    options.replaceLast.cmbLast.combo = options.replaceAll.cmbAll.combo = boxes[2];
     states.Reset(options);
     testing_support::FixedClock clock;
     testing_support::FixedRandom random;
-    const auto handler = CompileAction(kinds[row.action], options, {states, clock, random});
     model::NameContext context;
-    context.name = row.name;
-    context.type = row.type;
-    return handler->NewName(context);
+    context.name = name;
+    context.type = name == u"my.dir" ? u"File Folder"_qs : QString();
+    return CompileAction(action, options, {states, clock, random})->NewName(context);
 }
 
 TEST(OverwriteActions, LayAValueOverAStretchOfTheBase)
 {
-    const QString smile = u"\U0001F600"_qs;
-    const QString folder = u"File Folder"_qs;
-    const QString letters = u"abcdefgh.txt"_qs;
-    const Case rows[] = {
-        {First, u"3"_qs, {}, u"X"_qs, letters, u"Xdefgh.txt"_qs, {}},
-        {First, u"3"_qs, {}, u"abc"_qs, u"ab.txt"_qs, u"abc.txt"_qs, {}},
-        {First, u"2.5"_qs, {}, u"X"_qs, letters, u"Xcdefgh.txt"_qs, {}},
-        {First, u"3"_qs, {}, u""_qs, u"abcd.txt"_qs, u"d.txt"_qs, {}},
-        {First, u"3"_qs, {}, u""_qs, u"abc.txt"_qs, u".txt"_qs, {}},
-        {First, u"3"_qs, {}, u""_qs, u"abc"_qs, u"abc"_qs, {}}, // nothing would be left
-        {First, u"2"_qs, {}, u"X"_qs, u"a.b.txt"_qs, u"Xb.txt"_qs, {}},
-        {First, u"3"_qs, {}, u"x"_qs, u".ini"_qs, u".ini"_qs, {}},
-        {First, u"3"_qs, {}, u"x"_qs, u"my.dir"_qs, u"xdir"_qs, folder},
-        {First, u"2"_qs, {}, u"x"_qs, smile + smile + u"b.txt"_qs, u"xb.txt"_qs, {}},
-        {First, u"1"_qs, {}, u"x"_qs, u"e\u0301a.txt"_qs, u"x\u0301a.txt"_qs, {}},
-        {First, u"1"_qs, {}, u"x"_qs, QChar(0xDC80) + u"b.txt"_qs, u"xb.txt"_qs, {}},
-        {First, u"0"_qs, {}, u"X"_qs, letters, letters, {}},
-        {First, u"-1"_qs, {}, u"X"_qs, letters, letters, {}},
-        {First, u""_qs, {}, u"X"_qs, letters, letters, {}},
-        {First, u"32768"_qs, {}, u"X"_qs, letters, letters, {}},
-
-        {Last, u"2"_qs, {}, u"$Upper_Case$"_qs, u"report.txt"_qs, u"repoRT.txt"_qs, {}},
-        {Last, u"9"_qs, {}, u"X"_qs, letters, u"X.txt"_qs, {}},
-        {Last, u"1"_qs, {}, u"X"_qs, u"a"_qs + smile, u"aX"_qs, {}},
-        {Last, u"3"_qs, {}, u"X"_qs, u"my.dir"_qs, u"my.X"_qs, folder},
-        {Last, u"0"_qs, {}, u"X"_qs, letters, letters, {}},
-        {Last, u"-2"_qs, {}, u"X"_qs, letters, letters, {}},
-        {Last, u"x"_qs, {}, u"X"_qs, letters, letters, {}},
-
-        {Mid, u"3"_qs, u"3"_qs, u"X"_qs, letters, u"abXfgh.txt"_qs, {}},
-        {Mid, u"6"_qs, u"3"_qs, u"X"_qs, letters, u"abX.txt"_qs, {}},     // just to the end
-        {Mid, u"3"_qs, u"7"_qs, u"X"_qs, letters, u"abcdefX.txt"_qs, {}}, // cut to 2
-        {Mid, u"3"_qs, u"8"_qs, u"X"_qs, letters, u"abcdefgX.txt"_qs, {}},
-        {Mid, u"1"_qs, u"8"_qs, u"X"_qs, letters, u"abcdefgX.txt"_qs, {}},
-        {Mid, u"8"_qs, u"1"_qs, u"X"_qs, letters, u"X.txt"_qs, {}},
-        {Mid, u"2"_qs, u"2"_qs, u"$Invert_Case$"_qs, u"aBc.txt"_qs, u"abC.txt"_qs, {}},
-        {Mid, u"1"_qs, u"2"_qs, u"X"_qs, u"a"_qs + smile + u"c.txt"_qs, u"aXc.txt"_qs, {}},
-        {Mid, u"3"_qs, u"20"_qs, u"X"_qs, letters, letters, {}},
-        {Mid, u"1"_qs, u"9"_qs, u"X"_qs, letters, letters, {}},
-        {Mid, u"0"_qs, u"9"_qs, u"X"_qs, letters, letters, {}},
-        {Mid, u"0"_qs, u"3"_qs, u"X"_qs, letters, letters, {}},
-        {Mid, u"3"_qs, u"0"_qs, u"X"_qs, letters, letters, {}},
-        {Mid, u"3"_qs, u"-1"_qs, u"X"_qs, letters, letters, {}},
-        {Mid, u"-1"_qs, u"3"_qs, u"X"_qs, letters, letters, {}},
-        {Mid, u"-20"_qs, u"20"_qs, u"X"_qs, letters, letters, {}},
-        {Mid, u"3"_qs, u"3"_qs, u"X"_qs, u".ini"_qs, u".ini"_qs, {}},
-        {Mid, u""_qs, u"3"_qs, u"X"_qs, letters, letters, {}},
-        {Mid, u"3"_qs, u"a"_qs, u"X"_qs, letters, letters, {}},
-
-        {All, {}, {}, u"$Counter$"_qs, u"a.b.txt"_qs, u"001.txt"_qs, {}},
-        {All, {}, {}, u"x"_qs, u"my.dir"_qs, u"x"_qs, folder},
-        {All, {}, {}, u"x"_qs, u"plain"_qs, u"x"_qs, {}},
-        {All, {}, {}, u"x"_qs, u"a."_qs, u"x."_qs, {}},
-        {All, {}, {}, u"x"_qs, u".ini"_qs, u".ini"_qs, {}},
-        {All, {}, {}, u""_qs, letters, u".txt"_qs, {}},
-        {All, {}, {}, u""_qs, u"plain"_qs, u"plain"_qs, {}},
-        {All, {}, {}, u"$Invert_Case$"_qs, u"aBc.TxT"_qs, u"AbC.TxT"_qs, {}},
-        {All, {}, {}, u"$mod_yyyy$"_qs, letters, letters, {}}, // it has no date
-    };
-    for (const Case& row : rows) {
-        CounterStates states;
-        EXPECT_EQ(NewName(row, states), row.newName)
-            << "row " << &row - rows << ": " << row.count.toStdString() << " at "
-            << row.position.toStdString();
+    // Count, position, value, name, new name. \xDC80 is a byte that is no UTF-8; no file has a date.
+    const QString tables[] = {
+        u"3 ~ X abcdefgh.txt Xdefgh.txt   3 ~ abc ab.txt abc.txt   2.5 ~ X abcdefgh.txt Xcdefgh.txt "
+        u"3 ~ ~ abcd.txt d.txt   3 ~ ~ abc.txt .txt   3 ~ ~ abc abc   2 ~ X a.b.txt Xb.txt "
+        u"3 ~ x my.dir xdir   2 ~ x \U0001F600\U0001F600b.txt xb.txt   1 ~ x e\u0301a.txt x\u0301a.txt "
+        u"1 ~ x \xDC80.txt x.txt"_qs,
+        u"3 3 X abcdefgh.txt abXfgh.txt   6 3 X abcdefgh.txt abX.txt   8 1 X abcdefgh.txt X.txt "
+        u"3 7 X abcdefgh.txt abcdefX.txt   3 8 X abcdefgh.txt abcdefgX.txt   1 8 X abcdefgh.txt abcdefgX.txt "
+        u"2 2 $Invert_Case$ aBc.txt abC.txt   1 2 X a\U0001F600c.txt aXc.txt"_qs,
+        u"2 ~ $Upper_Case$ report.txt repoRT.txt   9 ~ X abcdefgh.txt X.txt   1 ~ X a\U0001F600 aX "
+        u"3 ~ X my.dir my.X"_qs,
+        u"~ ~ $Counter$ a.b.txt 001.txt   ~ ~ x my.dir x   ~ ~ x plain x   ~ ~ x a. x.   ~ ~ ~ abc.txt .txt "
+        u"~ ~ ~ plain plain   ~ ~ $Invert_Case$ aBc.TxT AbC.TxT   ~ ~ $mod_yyyy$ abc.txt abc.txt"_qs};
+    for (std::size_t action = 0; action < Kinds.size(); ++action) {
+        const QStringList words = Words(tables[action]);
+        for (qsizetype at = 0; at < words.size(); at += 5) {
+            CounterStates states;
+            EXPECT_EQ(NewName(Kinds[action], words.mid(at, 3), words[at + 3], states), words[at + 4])
+                << words.mid(at, 5).join(u' ').toStdString();
+        }
     }
 }
 
-TEST(OverwriteActions, CountersStepOnceTheBoxesHaveConverted)
+TEST(OverwriteActions, WhereTheNameStaysTheCounterStepsUnlessABoxFails)
 {
-    const QString counter = u"$Counter$"_qs;
-    const struct
-    {
-        Case row;
-        int numberAfter; // it starts at 1
-    } rows[] = {
-        {{First, u"0"_qs, {}, counter, u"abc.txt"_qs, {}, {}}, 2},
-        {{First, u"-1"_qs, {}, counter, u"abc.txt"_qs, {}, {}}, 2},
-        {{First, u""_qs, {}, counter, u"abc.txt"_qs, {}, {}}, 1},
-        {{Last, u"0"_qs, {}, counter, u"abc.txt"_qs, {}, {}}, 2},
-        {{Last, u"-1"_qs, {}, counter, u"abc.txt"_qs, {}, {}}, 2},
-        {{Last, u"40000"_qs, {}, counter, u"abc.txt"_qs, {}, {}}, 1},
-        {{Mid, u"3"_qs, u"20"_qs, counter, u"abc.txt"_qs, {}, {}}, 2},
-        {{Mid, u"3"_qs, u"0"_qs, counter, u"abc.txt"_qs, {}, {}}, 2},
-        {{Mid, u"-1"_qs, u"1"_qs, counter, u"abc.txt"_qs, {}, {}}, 2},
-        {{Mid, u"3"_qs, u""_qs, counter, u"abc.txt"_qs, {}, {}}, 1},
-        {{Mid, u"x"_qs, u"1"_qs, counter, u"abc.txt"_qs, {}, {}}, 1},
-        {{Mid, u"3"_qs, u"3"_qs, counter, u".ini"_qs, {}, {}}, 2},
-        {{All, {}, {}, counter, u".ini"_qs, {}, {}}, 2},
-    };
-    constexpr std::array kinds{ActionKind::ReplaceFirst, ActionKind::ReplaceMid, ActionKind::ReplaceLast,
-                               ActionKind::ReplaceAll};
-    for (const auto& [row, numberAfter] : rows) {
-        CounterStates states;
-        EXPECT_EQ(NewName(row, states), row.name);
-        EXPECT_EQ(states.Of(kinds[row.action]).number, numberAfter)
-            << row.action << ": " << row.count.toStdString() << " at " << row.position.toStdString();
+    // Count, position, where the counter stands then (it starts at 1), name.
+    const QString tables[] = {
+        u"0 ~ 2 a.txt   -1 ~ 2 a.txt   ~ ~ 1 a.txt   32768 ~ 1 a.txt   3 ~ 2 .ini"_qs,
+        u"3 20 2 a.txt   1 2 2 a.txt   0 2 2 a.txt   0 1 2 a.txt   3 0 2 a.txt   3 -1 2 abc.txt "
+        u"-1 3 2 abc.txt   -1 1 2 a.txt   -20 20 2 a.txt   3 3 2 .ini   ~ 3 1 a.txt   3 ~ 1 a.txt "
+        u"3 a 1 a.txt   x 1 1 a.txt"_qs,
+        u"0 ~ 2 a.txt   -2 ~ 2 a.txt   x ~ 1 a.txt   40000 ~ 1 a.txt"_qs, u"~ ~ 2 .ini"_qs};
+    for (std::size_t action = 0; action < Kinds.size(); ++action) {
+        const QStringList words = Words(tables[action]);
+        for (qsizetype at = 0; at < words.size(); at += 4) {
+            CounterStates states;
+            const QString row = words.mid(at, 4).join(u' '), name = words[at + 3];
+            EXPECT_EQ(NewName(Kinds[action], {words[at], words[at + 1], u"$Counter$"_qs}, name, states), name)
+                << row.toStdString();
+            EXPECT_EQ(states.Of(Kinds[action]).number, words[at + 2].toInt()) << row.toStdString();
+        }
     }
 }
 

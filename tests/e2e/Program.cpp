@@ -3,12 +3,11 @@
 
 #include "platform/NameBytes.h"
 
-#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
 #include <fcntl.h>
-#include <spawn.h>
-#include <string>
 #include <sys/wait.h>
-#include <system_error>
 #include <unistd.h>
 #include <vector>
 
@@ -16,95 +15,48 @@ namespace e2e {
 
 namespace {
 
-const QString OutputFile = QStringLiteral("output");
-
-void Require(int error)
+// Makes this process the program, without what leads to a display or to the user's own files.
+[[noreturn]] void Become(const QStringList& arguments, const QByteArray& folder, const QByteArray& home,
+                         int output)
 {
-    if (error != 0) {
-        throw std::system_error(error, std::generic_category(), QUILLMARK_EXECUTABLE);
+    ::setenv("HOME", home.constData(), 1);
+    ::setenv("XDG_DATA_HOME", (home + "data").constData(), 1);
+    ::setenv("QT_QPA_PLATFORM", "nonexistent", 1);
+    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "XDG_CONFIG_HOME", "XDG_CACHE_HOME"}) {
+        ::unsetenv(name);
     }
+    ::dup2(::open("/dev/null", O_RDONLY | O_CLOEXEC), STDIN_FILENO);
+    ::dup2(output, STDOUT_FILENO);
+    ::dup2(output, STDERR_FILENO);
+    std::vector<char*> command{::strdup(QUILLMARK_EXECUTABLE)};
+    for (const QString& argument : arguments) {
+        command.push_back(::strdup(platform::ToBytes(argument).constData()));
+    }
+    command.push_back(nullptr);
+    if (::chdir(folder.constData()) == 0) {
+        ::execv(command[0], command.data());
+    }
+    std::perror(command[0]);
+    ::_exit(127);
 }
-
-// The environment of these tests without what leads to a display or to the user's own files.
-std::vector<std::string> EnvironmentIn(const std::string& home)
-{
-    constexpr std::array<std::string_view, 7> replaced{
-        "DISPLAY=",       "WAYLAND_DISPLAY=", "QT_QPA_PLATFORM=", "HOME=",
-        "XDG_DATA_HOME=", "XDG_CONFIG_HOME=", "XDG_CACHE_HOME="};
-    std::vector<std::string> environment{"QT_QPA_PLATFORM=nonexistent", "HOME=" + home,
-                                         "XDG_DATA_HOME=" + home + "data"};
-    for (char** entry = environ; *entry != nullptr; ++entry) {
-        const std::string_view text = *entry;
-        bool isKept = true;
-        for (const std::string_view name : replaced) {
-            isKept = isKept && !text.starts_with(name);
-        }
-        if (isKept) {
-            environment.emplace_back(text);
-        }
-    }
-    return environment;
-}
-
-std::vector<char*> PointersTo(std::vector<std::string>& texts)
-{
-    std::vector<char*> pointers;
-    for (std::string& text : texts) {
-        pointers.push_back(text.data());
-    }
-    pointers.push_back(nullptr);
-    return pointers;
-}
-
-// What is to be done in the new process before the program takes over.
-class BeforeStart
-{
-public:
-    BeforeStart(const std::string& folder, const std::string& output)
-    {
-        Require(posix_spawn_file_actions_init(&actions_));
-        Require(posix_spawn_file_actions_addchdir_np(&actions_, folder.c_str()));
-        Require(posix_spawn_file_actions_addopen(&actions_, STDIN_FILENO, "/dev/null", O_RDONLY, 0));
-        Require(posix_spawn_file_actions_addopen(&actions_, STDOUT_FILENO, output.c_str(),
-                                                 O_WRONLY | O_CREAT | O_TRUNC, 0600));
-        Require(posix_spawn_file_actions_adddup2(&actions_, STDOUT_FILENO, STDERR_FILENO));
-    }
-    ~BeforeStart() { posix_spawn_file_actions_destroy(&actions_); }
-    BeforeStart(const BeforeStart&) = delete;
-    BeforeStart& operator=(const BeforeStart&) = delete;
-
-    const posix_spawn_file_actions_t* Actions() const { return &actions_; }
-
-private:
-    posix_spawn_file_actions_t actions_{};
-};
 
 } // namespace
 
-Program::Ended Program::Run(const QString& folder, const QStringList& arguments) const
+QByteArray Program::Run(const QString& folder, const QStringList& arguments) const
 {
-    const std::string home = platform::ToBytes(home_.Path()).toStdString();
-    std::vector<std::string> environment = EnvironmentIn(home);
-    std::vector<std::string> command{QUILLMARK_EXECUTABLE};
-    for (const QString& argument : arguments) {
-        command.push_back(platform::ToBytes(argument).toStdString());
+    const QByteArray path = platform::ToBytes(output_.Path() + u"output"_qs);
+    const int output = ::open(path.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);
+    const pid_t process = ::fork();
+    if (process == 0) {
+        Become(arguments, platform::ToBytes(folder), platform::ToBytes(home_.Path()), output);
     }
-    const BeforeStart before(platform::ToBytes(folder).toStdString(), home + OutputFile.toStdString());
-    pid_t process = 0;
-    Require(posix_spawn(&process, QUILLMARK_EXECUTABLE, before.Actions(), nullptr, PointersTo(command).data(),
-                        PointersTo(environment).data()));
+    ::close(output);
     int status = 0;
-    if (waitpid(process, &status, 0) != process) {
-        Require(errno);
+    if (::waitpid(process, &status, 0) != process) {
+        return "the program couldn't be started";
     }
-    return {WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status), home_.Content(OutputFile)};
-}
-
-QStringList Program::LeftBehind() const
-{
-    QStringList names = home_.Names();
-    names.removeAll(OutputFile);
-    return names;
+    const int exitStatus = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+    return QByteArray::number(exitStatus) + ' ' + output_.Content(u"output"_qs);
 }
 
 } // namespace e2e

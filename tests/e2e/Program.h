@@ -6,31 +6,20 @@
 
 #include "support/TempFolder.h"
 
-#include <QByteArray>
-#include <QStringList>
-
 namespace e2e {
 
 class Program
 {
 public:
-    struct Ended
-    {
-        int exitStatus; // as a shell tells it: 128 and the signal's number if a signal ended it
-        QByteArray output;
-
-        bool operator==(const Ended&) const = default;
-    };
-
-    // Runs the program to its end in the current folder `folder`. Throws std::system_error if it can't be
-    // started.
-    Ended Run(const QString& folder, const QStringList& arguments) const;
+    // Runs the program to its end in the current folder `folder`. Gives back its exit status as a shell tells
+    // it (128 and the signal's number if a signal ended it), a blank and its output.
+    QByteArray Run(const QString& folder, const QStringList& arguments) const;
 
     // What the runs left in the user's home: settings, logs, anything. Names directly in it.
-    QStringList LeftBehind() const;
+    QStringList LeftBehind() const { return home_.Names(); }
 
 private:
-    testing_support::TempFolder home_;
+    testing_support::TempFolder home_, output_;
 };
 
 } // namespace e2e

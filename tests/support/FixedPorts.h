@@ -10,27 +10,23 @@
 
 namespace testing_support {
 
-class FixedClock final : public model::Clock
+struct FixedClock final : model::Clock
 {
-public:
     QDateTime Now() const override { return now; }
 
     QDateTime now{QDate(2026, 11, 14), QTime(23, 22, 59)};
 };
 
-class FixedRandom final : public model::RandomSource
+struct FixedRandom final : model::RandomSource
 {
-public:
-    explicit FixedRandom(std::vector<double> sequence = {0}) : sequence_(std::move(sequence)) {}
+    explicit FixedRandom(std::vector<double> chance = {0}) : sequence(std::move(chance)) {}
 
     void Reseed() override { ++reseeds; }
-    double Next() override { return sequence_[next_++ % sequence_.size()]; }
+    double Next() override { return sequence[next++ % sequence.size()]; }
 
+    std::vector<double> sequence;
+    std::size_t next = 0;
     int reseeds = 0;
-
-private:
-    std::vector<double> sequence_;
-    std::size_t next_ = 0;
 };
 
 } // namespace testing_support

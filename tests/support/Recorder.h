@@ -23,10 +23,7 @@ public:
 
     // Does something while the run yields for the `yield`th time from now on, counted from 1.
     void AtYield(int yield, std::function<void()> what) { atYield_[yields_ + yield] = std::move(what); }
-    void StopAtYield(int yield)
-    {
-        AtYield(yield, [this] { stop_.Set(); });
-    }
+    void StopAtYield(int yield) { AtYield(yield, std::bind(&model::StopFlag::Set, &stop_)); }
 
     // The next message is to be this one.
     void Announce(const QString& title, const QString& text) { announced_.append(title + u": "_qs + text); }
@@ -36,39 +33,28 @@ public:
     QString TakeEvents() { return std::exchange(events_, {}).join(u"; "_qs); }
 
     void ShowStatus(const QString& text) override { events_.append(u"status "_qs + text); }
-    void SetProgressMaximum(int maximum) override
-    {
-        maximum_ = maximum;
-        events_.append(u"max "_qs + QString::number(maximum));
-    }
+    void ShowRowCount(const QString& text) override { events_.append(u"count "_qs + text); }
+    void SetProgressMaximum(int most) override { events_.append(u"max %1"_qs.arg(maximum_ = most)); }
     void SetProgressValue(int value) override
     {
-        if (value <= maximum_) {
-            events_.append(u"value "_qs + QString::number(value));
-        }
+        events_.append(value <= maximum_ ? QStringList(u"value %1"_qs.arg(value)) : QStringList());
     }
-    void ShowRowCount(const QString& text) override { events_.append(u"count "_qs + text); }
     void ShowMessage(const QString& text, const QString& title) override
     {
-        const QString message = title + u": "_qs + text;
-        EXPECT_EQ(announced_.value(0), message) << "an unasked-for message";
+        EXPECT_EQ(announced_.value(0), title + u": "_qs + text) << "an unasked-for message";
         announced_ = announced_.mid(1);
-        events_.append(u"message "_qs + message);
+        events_.append(u"message "_qs + title + u": "_qs + text);
     }
     void Yield() override
     {
-        if (const auto found = atYield_.find(++yields_); found != atYield_.end()) {
-            found->second();
-        }
+        atYield_.try_emplace(++yields_, [] {}).first->second();
     }
 
 private:
     model::StopFlag& stop_;
     std::map<int, std::function<void()>> atYield_;
-    QStringList announced_;
-    QStringList events_;
-    int yields_ = 0;
-    int maximum_ = 0;
+    QStringList announced_, events_;
+    int yields_ = 0, maximum_ = 0;
 };
 
 } // namespace testing_support

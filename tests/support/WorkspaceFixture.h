@@ -4,30 +4,24 @@
 // options, and reads names back from the grid or the disk.
 #pragma once
 
-#include "actions/ActionHandler.h"
 #include "support/FixedPorts.h"
 #include "support/Recorder.h"
 #include "support/TempFolder.h"
 #include "workspace/RenameWorkspace.h"
 #include "workspace/RunLog.h"
 
-#include <initializer_list>
+#include <algorithm>
 
 namespace testing_support {
 
 class WorkspaceFixture : public testing::Test
 {
 protected:
-    // Makes files that hold their own names, and folders for names that end with "/"; lists them all,
-    // checked.
+    // Makes files that hold their own names, and folders for names that end with "/"; lists them checked.
     void Files(const QStringList& names)
     {
         for (const QString& name : names) {
-            if (name.endsWith(u'/')) {
-                folder.MakeFolder(name.chopped(1));
-            } else {
-                folder.Write(name, name.toUtf8());
-            }
+            name.endsWith(u'/') ? folder.MakeFolder(name) : folder.Write(name, name.toUtf8());
         }
         List(names);
         workspace.Refreshrnm();
@@ -39,7 +33,7 @@ protected:
     {
         platform::FileSystem files;
         for (const QString& name : names) {
-            mainList.AddFile(folder.Path() + subfolder, name.endsWith(u'/') ? name.chopped(1) : name, files);
+            mainList.AddFile(folder.Path() + subfolder, name.chopped(name.endsWith(u'/')), files);
         }
         mainList.SetCheckedAll(true);
         state.CheckedCount = mainList.CheckedCount();
@@ -48,14 +42,12 @@ protected:
     // These actions run, in this order.
     void Select(const QStringList& names)
     {
-        options.List3 = {};
+        options.List3.entries = {{u"Replace First"_qs, false}};
         for (const QString& name : names) {
             options.List3.entries.push_back({name, true});
         }
-        options.List3.entries.push_back({u"Replace First"_qs, false});
     }
 
-    // Runs a preview and gives back the Preview column.
     QStringList Preview()
     {
         workspace.cmdPreview_Click();
@@ -75,11 +67,7 @@ protected:
 
     QStringList Column(workspace::GridPre::Column column) const
     {
-        QStringList texts;
-        for (int row = 1; row <= workspace.grid.RowCount(); ++row) {
-            texts.append(workspace.grid.Cell(row, column));
-        }
-        return texts;
+        return Texts(workspace.grid.RowCount(), [&](int i) { return workspace.grid.Cell(i + 1, column); });
     }
 
     // The last run's log as its window shows it: the results.
@@ -87,24 +75,17 @@ protected:
     {
         workspace::RunLog log;
         log.Load(workspace.LogPath());
-        QStringList results;
-        for (int row = 0; row < log.rowCount(); ++row) {
-            results.append(log.data(log.index(row, workspace::RunLog::Result)).toString());
-        }
-        return results;
+        return Texts(log.rowCount(), [&](int i) { return log.index(i, log.Result).data().toString(); });
     }
 
     QStringList MainListNames() const
     {
-        QStringList names;
-        for (int index = 1; index <= mainList.Count(); ++index) {
-            names.append(mainList.Item(index).Text + (mainList.Checked(index) ? u" checked"_qs : u""_qs));
-        }
-        return names;
+        return Texts(mainList.Count(), [&](int i) {
+            return mainList.Item(i + 1).Text + (mainList.Checked(i + 1) ? u" checked"_qs : u""_qs);
+        });
     }
 
-    TempFolder folder;
-    TempFolder program;
+    TempFolder folder, program;
     model::AppState state;
     fileview::FileList mainList;
     Recorder host{state.StopFlag};
@@ -113,6 +94,15 @@ protected:
     platform::ProgramFolder programFolder{program.Path()};
     workspace::RenameWorkspace workspace{{state, mainList, host, clock, random, programFolder}};
     actions::RenameOptions& options = workspace.options;
+
+private:
+    template<typename TextOf>
+    static QStringList Texts(int count, TextOf textOf)
+    {
+        QStringList texts;
+        std::generate_n(std::back_inserter(texts), count, [&] { return textOf(int(texts.size())); });
+        return texts;
+    }
 };
 
 } // namespace testing_support
