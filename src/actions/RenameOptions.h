@@ -5,6 +5,7 @@
 // documents store them, and a run compiles them once (ActionHandler.h). Nothing here reads a widget.
 #pragma once
 
+#include "actions/ReplaceList.h"
 #include "model/ActionKind.h"
 
 #include <QString>
@@ -84,6 +85,7 @@ struct ValueControls
 
 struct ReplaceOptions
 {
+    ReplaceRows ReplaceList; // no part of a recipe
     CounterBlock txtReplaceC;
     AlphaCounterBlock txtReplaceA;
 
@@ -159,7 +161,8 @@ struct LengthOptions
     enum Take { Option1, Option2, Option3 }; // from the beginning, from the end, from the position in Text37
     enum Pad { Option19, Option20 };         // at the beginning with Text18, at the end with Text19
 
-    // The four measures that cmbLength offers beside a number.
+    // The four measures that cmbLength offers beside a number, by their index in Measures().
+    enum Measure { LongestOriginal, ShortestOriginal, LongestModified, ShortestModified };
     static const QStringList& Measures();
 
     QString cmbLength = QStringLiteral("Enter File Length");
@@ -186,6 +189,9 @@ struct ExtensionOptions
     enum Change { Option42, Option41, Option40, Option43 }; // upper, lower, inverted, replace
 
     OptionGroup change{Option43};
+    bool ReplaceAllExtensions = false; // by ExtensionAllValue instead of the list
+    QString ExtensionAllValue;         // a literal or token
+    ReplaceRows ExtReplaceList;        // none of these three is part of a recipe
     CounterBlock txtExtC;
     AlphaCounterBlock txtExtA;
 

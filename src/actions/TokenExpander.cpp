@@ -139,9 +139,9 @@ std::optional<QString> TokenExpander::Expand(const model::NameContext& row, cons
     case Token::FolderName:
         return row.folder;
     case Token::UpperCase:
-        return piece.toUpper();
+        return model::UpperCase(piece);
     case Token::LowerCase:
-        return piece.toLower();
+        return model::LowerCase(piece);
     case Token::InvertCase:
         return model::InvertCase(piece);
     case Token::Counter:

@@ -39,6 +39,11 @@ struct AppState
     int ShowRenameDrop = 0;
     int ConfirmAfterRename = 0;
 
+    // What the pickers remember: the formats picked last, and the mask used last.
+    QString LastDateToken;
+    QString LastTimeToken;
+    QString LastMask;
+
     model::StopFlag StopFlag;
 };
 

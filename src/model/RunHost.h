@@ -29,6 +29,9 @@ public:
     // A message box with the information icon; returns when it was closed.
     virtual void ShowMessage(const QString& text, const QString& title) = 0;
 
+    // A plain message box with the description of an error, which may be empty; returns when it was closed.
+    virtual void ShowError(const QString& description) = 0;
+
     // Lets waiting events through, the stop button's among them. Called once a row or more often, so an
     // implementation does the costly part only every few milliseconds. May run commands of the same
     // workspace: nothing guards against that.
@@ -44,6 +47,7 @@ public:
     void SetProgressValue(int) override {}
     void ShowRowCount(const QString&) override {}
     void ShowMessage(const QString&, const QString&) override {}
+    void ShowError(const QString&) override {}
     void Yield() override {}
 };
 

@@ -4,6 +4,7 @@
 #include "model/ActionError.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace model {
 
@@ -42,7 +43,7 @@ bool IsBoundary(const QString& text, qsizetype at)
 
 // Unit offset of the first occurrence at or behind `from` that is made of whole characters; -1 if there is
 // none.
-qsizetype Find(const QString& text, const QString& find, qsizetype from, Qt::CaseSensitivity comparison)
+qsizetype UnitsTo(const QString& text, const QString& find, qsizetype from, Qt::CaseSensitivity comparison)
 {
     qsizetype at = text.indexOf(find, from, comparison);
     while (at >= 0 && !(IsBoundary(text, at) && IsBoundary(text, at + find.size()))) {
@@ -51,12 +52,45 @@ qsizetype Find(const QString& text, const QString& find, qsizetype from, Qt::Cas
     return at;
 }
 
+// `text` with all parts between lone surrogates converted.
+template<class Convert>
+QString WithCase(const QString& text, Convert convert)
+{
+    if (!HasSurrogates(text)) {
+        return convert(text);
+    }
+    QString result;
+    QString part;
+    for (qsizetype at = 0; at < text.size();) {
+        const QStringView character = CharacterAt(text, at);
+        at += character.size();
+        if (character.size() == 1 && character.front().isSurrogate()) {
+            result += convert(std::exchange(part, QString()));
+            result += character;
+        } else {
+            part += character;
+        }
+    }
+    return result + convert(part);
+}
+
 [[noreturn]] void FailCall()
 {
     throw ActionError(QStringLiteral("Invalid procedure call or argument"));
 }
 
 } // namespace
+
+QStringView CharacterAt(const QString& text, qsizetype at)
+{
+    return QStringView(text).mid(at, UnitsAt(text, at));
+}
+
+char32_t CodePoint(QStringView character)
+{
+    return character.size() == 2 ? QChar::surrogateToUcs4(character[0], character[1])
+                                 : character.front().unicode();
+}
 
 int Length(const QString& text)
 {
@@ -109,21 +143,37 @@ QString Repeat(int count, const QString& text)
     return count == 0 ? QString() : Left(text, 1).repeated(count);
 }
 
+int Find(const QString& text, const QString& find, Qt::CaseSensitivity comparison)
+{
+    const qsizetype at = UnitsTo(text, find, 0, comparison);
+    return at < 0 ? 0 : Length(text.left(at)) + 1;
+}
+
 QString Replace(const QString& text, const QString& find, const QString& with, Qt::CaseSensitivity comparison)
 {
-    qsizetype at = find.isEmpty() ? -1 : Find(text, find, 0, comparison);
+    qsizetype at = find.isEmpty() ? -1 : UnitsTo(text, find, 0, comparison);
     if (at < 0) {
         return text;
     }
     QString result;
     qsizetype copied = 0;
-    for (; at >= 0; at = Find(text, find, copied, comparison)) {
+    for (; at >= 0; at = UnitsTo(text, find, copied, comparison)) {
         result += QStringView(text).mid(copied, at - copied);
         result += with;
         copied = at + find.size();
     }
     result += QStringView(text).mid(copied);
     return result;
+}
+
+QString UpperCase(const QString& text)
+{
+    return WithCase(text, [](const QString& part) { return part.toUpper(); });
+}
+
+QString LowerCase(const QString& text)
+{
+    return WithCase(text, [](const QString& part) { return part.toLower(); });
 }
 
 QString InvertCase(const QString& text)

@@ -9,6 +9,13 @@
 
 namespace model {
 
+// The character at unit offset `at`: one or two units. With it a text is walked character by character.
+// REQUIRES: 0 <= at < text.size(), and no pair begins before it.
+QStringView CharacterAt(const QString& text, qsizetype at);
+
+// The code point of one character; a lone surrogate is its own.
+char32_t CodePoint(QStringView character);
+
 // Number of characters.
 int Length(const QString& text);
 
@@ -26,10 +33,18 @@ QString Mid(const QString& text, int start, int count);
 // ActionError for a negative count, and for an empty text with a count above 0.
 QString Repeat(int count, const QString& text);
 
+// Position of the first occurrence of `find`, 0 if there is none. An empty `find` is found at 1.
+int Find(const QString& text, const QString& find, Qt::CaseSensitivity comparison);
+
 // `text` with every occurrence of `find` replaced by `with`, from the first character on. An empty `find`
 // occurs nowhere.
 QString Replace(const QString& text, const QString& find, const QString& with,
                 Qt::CaseSensitivity comparison = Qt::CaseSensitive);
+
+// Upper and lower case by Unicode's rules, the same under every locale. A lone surrogate stays, where
+// QString's own functions would lose it.
+QString UpperCase(const QString& text);
+QString LowerCase(const QString& text);
 
 // Swaps the case of the ASCII letters and leaves all others alone, unlike upper and lower case.
 QString InvertCase(const QString& text);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "workspace/GridPre.h"
 
+#include "model/GetFName.h"
+#include "model/Text.h"
 #include "platform/Conversions.h"
 
 #include <QDateTime>
@@ -62,6 +64,11 @@ qint64 DateKey(const model::RenameRow& row, int column)
     return moment ? moment->toSecsSinceEpoch() : noDate;
 }
 
+int BaseLength(const model::RenameRow& row, int column)
+{
+    return model::Length(model::GetFName(TextOf(row, column), row.type, false));
+}
+
 // What a row sorts by.
 struct SortItem
 {
@@ -112,6 +119,24 @@ unsigned GridPre::ColourOf(model::ValidationState state)
 QString GridPre::Cell(int row, int column) const
 {
     return TextOf(Row(row), column);
+}
+
+int GridPre::LongestLength(int column) const
+{
+    int longest = 0;
+    for (const model::RenameRow& row : rows_) {
+        longest = std::max(longest, BaseLength(row, column));
+    }
+    return longest;
+}
+
+int GridPre::ShortestLength(int column) const
+{
+    int shortest = rows_.empty() ? 0 : BaseLength(rows_.front(), column);
+    for (const model::RenameRow& row : rows_) {
+        shortest = std::min(shortest, BaseLength(row, column));
+    }
+    return shortest;
 }
 
 void GridPre::SetRows(std::vector<model::RenameRow> rows)

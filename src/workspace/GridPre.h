@@ -43,6 +43,11 @@ public:
     // The cell's text: numbers in plain digits, the date as "yyyy/MM/dd hh:mm:ss".
     QString Cell(int row, int column) const;
 
+    // The greatest and the least number of characters that the base names of a column have, over all rows; 0
+    // without rows.
+    int LongestLength(int column) const;
+    int ShortestLength(int column) const;
+
     // Replaces all rows. Announced at once.
     void SetRows(std::vector<model::RenameRow> rows);
     void Clear() { SetRows({}); }

@@ -19,15 +19,33 @@ bool HasSelection(const actions::ActionList& list)
                        [](const actions::ActionList::Entry& entry) { return entry.Selected; });
 }
 
+bool IsSelected(model::ActionKind kind, const actions::ActionList& list)
+{
+    return std::any_of(list.entries.begin(), list.entries.end(),
+                       [&](const actions::ActionList::Entry& entry) {
+                           return entry.Selected && entry.text == model::NameOf(kind);
+                       });
+}
+
+// Taken before the first row: Preview still holds the run before this one, or what was typed into it.
+actions::LengthMeasures MeasuresOf(const GridPre& grid)
+{
+    return {
+        .longestOriginal = grid.LongestLength(GridPre::Original),
+        .shortestOriginal = grid.ShortestLength(GridPre::Original),
+        .longestModified = grid.LongestLength(GridPre::Preview),
+        .shortestModified = grid.ShortestLength(GridPre::Preview),
+    };
+}
+
 // The selected actions in list order. Texts that name no action are passed over.
 Handlers CompileSelected(const actions::RenameOptions& options, const actions::RunState& run)
 {
     Handlers handlers;
     for (const actions::ActionList::Entry& entry : options.List3.entries) {
         const auto kind = entry.Selected ? model::ActionKindOf(entry.text) : std::nullopt;
-        auto handler = kind ? actions::CompileAction(*kind, options, run) : nullptr;
-        if (handler) {
-            handlers.push_back(std::move(handler));
+        if (kind) {
+            handlers.push_back(actions::CompileAction(*kind, options, run));
         }
     }
     return handlers;
@@ -57,7 +75,9 @@ void RenameWorkspace::RunPreview()
         host_.ShowMessage(QStringLiteral("Please Select Actions"), QStringLiteral("Renamer"));
         return;
     }
-    const Handlers handlers = CompileSelected(options, {counters_, clock_, random_});
+    const actions::LengthMeasures lengths =
+        IsSelected(model::ActionKind::Length, options.List3) ? MeasuresOf(grid) : actions::LengthMeasures{};
+    const Handlers handlers = CompileSelected(options, {counters_, clock_, random_, host_, lengths});
 
     const int rowCount = grid.RowCount();
     host_.SetProgressValue(0);

@@ -1,13 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "actions/ActionHandler.h"
-#include "support/FixedPorts.h"
-#include "support/Printers.h"
+#include "actions/OneAction.h"
 
-#include <gtest/gtest.h>
+#include <algorithm>
 
 namespace {
-
-using namespace actions;
 
 constexpr std::array Kinds{model::ActionKind::ReplaceFirst, model::ActionKind::ReplaceMid,
                            model::ActionKind::ReplaceLast, model::ActionKind::ReplaceAll};
@@ -18,50 +14,45 @@ QStringList Words(const QString& table)
     return table.split(u' ', Qt::SkipEmptyParts).replaceInStrings(u"~"_qs, QString());
 }
 
-// What an action with these boxes makes of a name; the counters start anew. my.dir is a folder.
-QString NewName(model::ActionKind action, const QStringList& boxes, const QString& name,
-                CounterStates& states)
+class OverwriteActions : public actions_tests::OneAction
 {
-    RenameOptions options;
-    options.replaceFirst.Text1 = options.replaceMid.Text12 = options.replaceLast.Text14 = boxes[0];
-    options.replaceMid.Text13 = boxes[1];
-    options.replaceFirst.cmbFirst.combo = options.replaceMid.cmbMid.combo = boxes[2];
-    options.replaceLast.cmbLast.combo = options.replaceAll.cmbAll.combo = boxes[2];
-    states.Reset(options);
-    testing_support::FixedClock clock;
-    testing_support::FixedRandom random;
-    model::NameContext context;
-    context.name = name;
-    context.type = name == u"my.dir" ? u"File Folder"_qs : QString();
-    return CompileAction(action, options, {states, clock, random})->NewName(context);
-}
+protected:
+    // `boxes` are count, position and value.
+    QString NewNameWith(model::ActionKind kind, const QStringList& boxes, const QString& name)
+    {
+        options.replaceFirst.Text1 = options.replaceMid.Text12 = options.replaceLast.Text14 = boxes[0];
+        options.replaceMid.Text13 = boxes[1];
+        options.replaceFirst.cmbFirst.combo = options.replaceMid.cmbMid.combo = boxes[2];
+        options.replaceLast.cmbLast.combo = options.replaceAll.cmbAll.combo = boxes[2];
+        return NewName(kind, name);
+    }
+};
 
-TEST(OverwriteActions, LayAValueOverAStretchOfTheBase)
+TEST_F(OverwriteActions, LayAValueOverAStretchOfTheBase)
 {
     // Count, position, value, name, new name. \xDC80 is a byte that is no UTF-8; no file has a date.
     const QString tables[] = {
         u"3 ~ X abcdefgh.txt Xdefgh.txt   3 ~ abc ab.txt abc.txt   2.5 ~ X abcdefgh.txt Xcdefgh.txt "
         u"3 ~ ~ abcd.txt d.txt   3 ~ ~ abc.txt .txt   3 ~ ~ abc abc   2 ~ X a.b.txt Xb.txt "
-        u"3 ~ x my.dir xdir   2 ~ x \U0001F600\U0001F600b.txt xb.txt   1 ~ x e\u0301a.txt x\u0301a.txt "
+        u"3 ~ x my.dir/ xdir   2 ~ x \U0001F600\U0001F600b.txt xb.txt   1 ~ x e\u0301a.txt x\u0301a.txt "
         u"1 ~ x \xDC80.txt x.txt"_qs,
         u"3 3 X abcdefgh.txt abXfgh.txt   6 3 X abcdefgh.txt abX.txt   8 1 X abcdefgh.txt X.txt "
         u"3 7 X abcdefgh.txt abcdefX.txt   3 8 X abcdefgh.txt abcdefgX.txt   1 8 X abcdefgh.txt abcdefgX.txt "
         u"2 2 $Invert_Case$ aBc.txt abC.txt   1 2 X a\U0001F600c.txt aXc.txt"_qs,
         u"2 ~ $Upper_Case$ report.txt repoRT.txt   9 ~ X abcdefgh.txt X.txt   1 ~ X a\U0001F600 aX "
-        u"3 ~ X my.dir my.X"_qs,
-        u"~ ~ $Counter$ a.b.txt 001.txt   ~ ~ x my.dir x   ~ ~ x plain x   ~ ~ x a. x.   ~ ~ ~ abc.txt .txt "
+        u"3 ~ X my.dir/ my.X"_qs,
+        u"~ ~ $Counter$ a.b.txt 001.txt   ~ ~ x my.dir/ x   ~ ~ x plain x   ~ ~ x a. x.   ~ ~ ~ abc.txt .txt "
         u"~ ~ ~ plain plain   ~ ~ $Invert_Case$ aBc.TxT AbC.TxT   ~ ~ $mod_yyyy$ abc.txt abc.txt"_qs};
     for (std::size_t action = 0; action < Kinds.size(); ++action) {
         const QStringList words = Words(tables[action]);
         for (qsizetype at = 0; at < words.size(); at += 5) {
-            CounterStates states;
-            EXPECT_EQ(NewName(Kinds[action], words.mid(at, 3), words[at + 3], states), words[at + 4])
+            EXPECT_EQ(NewNameWith(Kinds[action], words.mid(at, 3), words[at + 3]), words[at + 4])
                 << words.mid(at, 5).join(u' ').toStdString();
         }
     }
 }
 
-TEST(OverwriteActions, WhereTheNameStaysTheCounterStepsUnlessABoxFails)
+TEST_F(OverwriteActions, WhereTheNameStaysTheCounterStepsUnlessABoxFails)
 {
     // Count, position, where the counter stands then (it starts at 1), name.
     const QString tables[] = {
@@ -73,11 +64,31 @@ TEST(OverwriteActions, WhereTheNameStaysTheCounterStepsUnlessABoxFails)
     for (std::size_t action = 0; action < Kinds.size(); ++action) {
         const QStringList words = Words(tables[action]);
         for (qsizetype at = 0; at < words.size(); at += 4) {
-            CounterStates states;
             const QString row = words.mid(at, 4).join(u' '), name = words[at + 3];
-            EXPECT_EQ(NewName(Kinds[action], {words[at], words[at + 1], u"$Counter$"_qs}, name, states), name)
+            EXPECT_EQ(NewNameWith(Kinds[action], {words[at], words[at + 1], u"$Counter$"_qs}, name), name)
                 << row.toStdString();
-            EXPECT_EQ(states.Of(Kinds[action]).number, words[at + 2].toInt()) << row.toStdString();
+            EXPECT_EQ(Number(Kinds[action]), words[at + 2].toInt()) << row.toStdString();
+        }
+    }
+}
+
+TEST_F(OverwriteActions, AndAllOthersNeverCutACharacter)
+{
+    const QString name = u"e\u0301\u65e5\U0001F600\xDC80\U0001F601.\U0001F602"_qs;
+    const actions::ReplaceRow row{u"n"_qs, u"\u65e5"_qs, u"\U0001F603"_qs};
+    options.replace.ReplaceList = options.extension.ExtReplaceList = {row};
+    options.length.cmbLength = u"3"_qs;
+    options.clean.Check12 = true;
+    options.clean.Text48 = u"\U0001F600"_qs;
+    options.compose.lstCompose = QStringList{u"\U0001F600"_qs};
+    for (const model::ActionKind kind : model::AllActionKinds) {
+        for (const QString& position : {u"2"_qs, u"3"_qs, u"4"_qs}) {
+            options.insert.Text38 = position;
+            const QString result = NewNameWith(kind, {position, position, u"\U0001F604"_qs}, name);
+            const std::u32string characters = result.toStdU32String();
+            // The only half that may be left is the one that stands for a byte.
+            EXPECT_EQ(std::ranges::count(characters, U'\uFFFD'), result.count(QChar(0xDC80)))
+                << model::NameOf(kind).toStdString();
         }
     }
 }

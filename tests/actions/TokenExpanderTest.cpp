@@ -24,7 +24,8 @@ protected:
 
     QString Value(const QString& text, ActionKind kind = ActionKind::ReplaceAll, const QString& previous = {})
     {
-        TokenExpander expander(text, kind, {counter, letters, u"x#"_qs}, {states, clock, random});
+        TokenExpander expander(text, kind, {counter, letters, u"x#"_qs},
+                               {states, clock, random, host, lengths});
         return expander.Expand(row, u"a\u00c9"_qs, previous).value_or(u"(leaves the name)"_qs);
     }
 
@@ -34,6 +35,8 @@ protected:
     CounterStates states;
     testing_support::FixedClock clock;
     testing_support::FixedRandom random;
+    model::SilentHost host;
+    LengthMeasures lengths;
 };
 
 // A table's words, which blanks part; "~" stands for a blank.

@@ -45,6 +45,7 @@ public:
         announced_ = announced_.mid(1);
         events_.append(u"message "_qs + title + u": "_qs + text);
     }
+    void ShowError(const QString& description) override { ShowMessage(description, u"error"_qs); }
     void Yield() override
     {
         atYield_.try_emplace(++yields_, [] {}).first->second();

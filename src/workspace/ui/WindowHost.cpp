@@ -37,12 +37,22 @@ void WindowHost::ShowRowCount(const QString& text)
 
 void WindowHost::ShowMessage(const QString& text, const QString& title)
 {
+    ShowBox(QMessageBox::Information, title, text);
+}
+
+void WindowHost::ShowError(const QString& description)
+{
+    ShowBox(QMessageBox::NoIcon, QCoreApplication::applicationName(), description);
+}
+
+void WindowHost::ShowBox(int icon, const QString& title, const QString& text)
+{
     if (controls_.grid) {
         controls_.grid->AnnounceChanges();
     }
     QWidget* const owner =
         controls_.window && controls_.window->isVisible() ? controls_.window.data() : nullptr;
-    QMessageBox(QMessageBox::Information, title, text, QMessageBox::Ok, owner).exec();
+    QMessageBox(static_cast<QMessageBox::Icon>(icon), title, text, QMessageBox::Ok, owner).exec();
 }
 
 void WindowHost::Yield()

@@ -34,11 +34,14 @@ public:
     void SetProgressValue(int value) override;
     void ShowRowCount(const QString& text) override;
     void ShowMessage(const QString& text, const QString& title) override;
+    void ShowError(const QString& description) override;
 
     // Lets events through at most every 15 milliseconds.
     void Yield() override;
 
 private:
+    void ShowBox(int icon, const QString& title, const QString& text);
+
     Controls controls_;
     QElapsedTimer sinceYield_;
 };
