@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Recipes in use depend on the number of each line. The table below is those numbers, those of a .rfg,
-// written down apart from the code that reads and writes them.
+// Recipes in use depend on the number of each line. Controls are those numbers, those of a .rfg, written
+// down apart from the code that reads and writes them.
 #include "documents/RenameDocument.h"
 
 #include "platform/TextFile.h"
@@ -9,416 +9,222 @@
 
 #include <gtest/gtest.h>
 #include <random>
-#include <variant>
+#include <set>
 
 namespace {
 
 using namespace actions;
 
-struct CheckBox
-{
-    bool* value;
-};
+const QString Yes = u"True"_qs, No = u"False"_qs;
 
-struct Button
+// The state of each control under its line: number n stands at n - 1.
+struct Controls : QStringList
 {
-    OptionGroup* group;
-    int button;
-};
-
-struct Line
-{
-    int number; // in a .rfg, from 1
-    std::variant<QString*, bool*, CheckBox, Button> control;
-};
-
-class Table
-{
-public:
-    explicit Table(RenameOptions& o)
+    explicit Controls(const RenameOptions& o) : QStringList(u"File Rename Settings"_qs)
     {
-        Texts(29, o.replace.txtReplaceC.text);
-        Texts(35, o.replace.txtReplaceA.text);
-        Add(41, &o.replaceFirst.Text1);
-        Value(42, o.replaceFirst.cmbFirst);
-        Add(60, &o.replaceMid.Text12);
-        Add(61, &o.replaceMid.Text13);
-        Value(62, o.replaceMid.cmbMid);
-        Add(80, &o.replaceLast.Text14);
-        Value(81, o.replaceLast.cmbLast);
-        Value(99, o.replaceAll.cmbAll);
-        Add(117, &o.insert.cmbInsert);
-        Add(118, &o.insert.Text38);
-        Add(119, &o.insert.Text43);
-        Add(120, CheckBox{&o.insert.Check2});
-        Add(121, &o.insert.Text44);
-        Add(122, &o.insert.Text45);
-        Add(123, CheckBox{&o.insert.Check1});
-        Value(124, o.insert.cmbInsertS);
-        Value(142, o.suffix.cmbSuffix);
-        Value(160, o.prefix.cmbPrefix);
-        Add(178, &o.length.cmbLength);
-        Buttons(179, o.length.take, {LengthOptions::Option1, LengthOptions::Option2, LengthOptions::Option3});
-        Add(182, &o.length.Text37);
-        Add(183, Button{&o.length.pad, LengthOptions::Option19});
-        Add(184, &o.length.Text37);
-        Add(185, Button{&o.length.pad, LengthOptions::Option20});
-        Add(186, &o.length.Text19);
-        Buttons(187, o.changeCase.change,
-                {ChangeCaseOptions::Option37, ChangeCaseOptions::Option38, ChangeCaseOptions::Option39});
-        Buttons(190, o.extension.change,
-                {ExtensionOptions::Option42, ExtensionOptions::Option41, ExtensionOptions::Option40,
-                 ExtensionOptions::Option43});
-        Texts(194, o.extension.txtExtC.text);
-        Texts(200, o.extension.txtExtA.text);
-        Buttons(206, o.extension.txtExtA.letterCase, {AlphaCounterBlock::Uppercase});
-        CleanOptions& clean = o.clean;
-        int line = 207;
-        for (bool* box : {&clean.chkCAlpha, &clean.chkSAlpha, &clean.chkVowel, &clean.chkDigit, &clean.Check3,
-                          &clean.Check4, &clean.Check5, &clean.Check6, &clean.Check7, &clean.Check8,
-                          &clean.Check9, &clean.Check10, &clean.Check11, &clean.Check12}) {
-            Add(line++, CheckBox{box});
+        for (std::size_t i = 0; i < 13; ++i) {
+            const auto entry = i < o.List3.entries.size() ? o.List3.entries[i] : ActionList::Entry{};
+            *this << entry.text << Word(entry.Selected);
         }
-        Add(221, &clean.Text48);
-        Buttons(222, clean.filler, {CleanOptions::Option4, CleanOptions::Option5});
-        Add(224, &clean.Text49);
-        Value(225, o.compose.cmbCompose);
-    }
-
-    const std::vector<Line>& Lines() const { return lines_; }
-
-private:
-    template<typename Control>
-    void Add(int number, Control control)
-    {
-        lines_.push_back({number, control});
-    }
-    void Texts(int number, std::array<QString, 6>& texts)
-    {
-        for (QString& text : texts) {
-            Add(number++, &text);
+        At(28) << QString::number(o.List3.currentIndex) << Texts(o.replace.txtReplaceC)
+               << Texts(o.replace.txtReplaceA);
+        At(41) << o.replaceFirst.Text1 << Value(o.replaceFirst.cmbFirst);
+        At(60) << o.replaceMid.Text12 << o.replaceMid.Text13 << Value(o.replaceMid.cmbMid);
+        At(80) << o.replaceLast.Text14 << Value(o.replaceLast.cmbLast);
+        At(99) << Value(o.replaceAll.cmbAll);
+        At(117) << o.insert.cmbInsert << o.insert.Text38 << o.insert.Text43 << Check(o.insert.Check2);
+        At(121) << o.insert.Text44 << o.insert.Text45 << Check(o.insert.Check1) << Value(o.insert.cmbInsertS);
+        At(142) << Value(o.suffix.cmbSuffix) << Value(o.prefix.cmbPrefix);
+        const LengthOptions& l = o.length;
+        At(178) << l.cmbLength << On(l.take, l.Option1) << On(l.take, l.Option2) << On(l.take, l.Option3);
+        At(182) << l.Text37 << On(l.pad, l.Option19) << l.Text37 << On(l.pad, l.Option20) << l.Text19;
+        const auto& [change] = o.changeCase;
+        At(187) << On(change, 0) << On(change, 1) << On(change, 2);
+        const ExtensionOptions& e = o.extension;
+        At(190) << On(e.change, e.Option42) << On(e.change, e.Option41) << On(e.change, e.Option40);
+        At(193) << On(e.change, e.Option43) << Texts(e.txtExtC) << Texts(e.txtExtA);
+        At(206) << On(e.txtExtA.letterCase, AlphaCounterBlock::Uppercase);
+        const CleanOptions& c = o.clean;
+        for (const bool box : {c.chkCAlpha, c.chkSAlpha, c.chkVowel, c.chkDigit, c.Check3, c.Check4, c.Check5,
+                               c.Check6, c.Check7, c.Check8, c.Check9, c.Check10, c.Check11, c.Check12}) {
+            *this << Check(box);
         }
-    }
-    void Buttons(int number, OptionGroup& group, std::initializer_list<int> buttons)
-    {
-        for (const int button : buttons) {
-            Add(number++, Button{&group, button});
-        }
-    }
-    void Value(int number, ValueControls& value)
-    {
-        Add(number, &value.combo);
-        Add(number + 1, &value.frameAVisible);
-        Add(number + 2, &value.frameCVisible);
-        Add(number + 3, &value.frameRVisible);
-        Texts(number + 4, value.counter.text);
-        Add(number + 10, &value.mask);
-        Texts(number + 11, value.letters.text);
-        Add(number + 17, Button{&value.letters.letterCase, AlphaCounterBlock::Uppercase});
+        At(221) << c.Text48 << On(c.filler, c.Option4) << On(c.filler, c.Option5) << c.Text49;
+        At(225) << Value(o.compose.cmbCompose);
     }
 
-    std::vector<Line> lines_;
+    QStringList& At(qsizetype number)
+    {
+        EXPECT_EQ(size() + 1, number);
+        return *this;
+    }
+    static QString Word(bool value) { return value ? Yes : No; }
+    static QString Check(bool value) { return value ? u"1"_qs : u"0"_qs; }
+    static QStringList Texts(const auto& block) { return {block.text.begin(), block.text.end()}; }
+    static QString On(const OptionGroup& group, int button) { return Word(group.IsOn(button)); }
+    static QStringList Value(const ValueControls& v)
+    {
+        return QStringList{v.combo, Word(v.frameAVisible), Word(v.frameCVisible), Word(v.frameRVisible)}
+               << Texts(v.counter) << v.mask << Texts(v.letters)
+               << On(v.letters.letterCase, AlphaCounterBlock::Uppercase);
+    }
 };
-
-QString TextOf(const Line& line)
-{
-    const auto word = [](bool value) {
-        return value ? u"True"_qs : u"False"_qs;
-    };
-    if (const auto* text = std::get_if<QString*>(&line.control)) {
-        return **text;
-    }
-    if (const auto* value = std::get_if<bool*>(&line.control)) {
-        return word(**value);
-    }
-    if (const auto* box = std::get_if<CheckBox>(&line.control)) {
-        return *box->value ? u"1"_qs : u"0"_qs;
-    }
-    const auto button = std::get<Button>(line.control);
-    return word(button.group->IsOn(button.button));
-}
-
-// The masks that a .rfg leaves out. In a .rnp the last of them is that of Prefix.
-constexpr int OmittedMasks[] = {109, 134, 152, 170, 235};
-constexpr int ComposeMaskLine = 235;
-
-bool IsLetterCase(const Line& line)
-{
-    constexpr int numbers[] = {59, 79, 98, 116, 141, 159, 177, 206, 242};
-    return std::count(std::begin(numbers), std::end(numbers), line.number) > 0;
-}
-
-// Options with a text of its own in each box, and chance in the rest.
-RenameOptions Distinct(const QString& mark, std::mt19937& dice)
-{
-    RenameOptions options;
-    const Table table(options);
-    for (const Line& line : table.Lines()) {
-        if (const auto* text = std::get_if<QString*>(&line.control)) {
-            **text = mark + QString::number(line.number);
-        } else if (const auto* value = std::get_if<bool*>(&line.control)) {
-            **value = dice() % 2 == 0;
-        } else if (const auto* box = std::get_if<CheckBox>(&line.control)) {
-            *box->value = dice() % 2 == 0;
-        } else if (const auto button = std::get<Button>(line.control); dice() % 2 == 0) {
-            button.group->Set(button.button, dice() % 4 != 0);
-        }
-    }
-    options.length.Text18 = mark + u"18"_qs;
-    options.replace.txtReplaceA.letterCase = OptionGroup(static_cast<int>(dice() % 3) - 1);
-    options.compose.lstCompose = {mark};
-    std::shuffle(options.List3.entries.begin(), options.List3.entries.end(), dice);
-    for (ActionList::Entry& entry : options.List3.entries) {
-        entry.Selected = dice() % 2 == 0;
-    }
-    options.List3.currentIndex = static_cast<int>(dice() % 14) - 1;
-    return options;
-}
 
 // Runs the same for both documents.
 class RenameDocument : public testing::TestWithParam<bool>
 {
 protected:
-    bool IsDrop() const { return GetParam(); }
-    int HeaderLines() const { return IsDrop() ? 0 : 1; }
+    const bool isDrop = GetParam();
 
-    void Save(const RenameOptions& options)
+    // A document as it is saved: a text of its own on each line, or none at all, and chance in the rest.
+    QStringList AnyDocument(const QString& mark)
     {
-        EXPECT_TRUE((IsDrop() ? documents::SaveRenameDrop(options, path_)
-                              : documents::SaveRenameConfig(options, path_))
-                        .IsOk());
+        QStringList lines = Controls({});
+        const int pick = int(dice() % 12);
+        const std::set on{179 + pick % 3, 183 + pick % 2 * 2, 187 + pick / 4, 190 + pick % 4, 222 + pick / 6};
+        for (int number = 2; number <= 242; ++number) {
+            QString& line = lines[number - 1];
+            const bool chance = dice() % 2 == 0;
+            if (line == Yes || line == No) {
+                const bool isInGroup = (number > 178 && number < 194) || number == 222 || number == 223;
+                line = Controls::Word(isInGroup ? on.contains(number) : chance);
+            } else {
+                const bool isCheck = number == 120 || number == 123 || (number >= 207 && number <= 220);
+                line =
+                    isCheck ? Controls::Check(chance) : QString(mark).replace(u'#', QString::number(number));
+            }
+        }
+        lines[28 - 1] = QString::number(int(dice() % 14) - 1);
+        return WithMasksAsStored(lines);
+    }
+
+    // A .rfg leaves five masks out; in a .rnp the mask of Compose is that of Prefix.
+    QStringList WithMasksAsStored(QStringList lines) const
+    {
+        for (const int number : {109, 134, 152, 170, 235}) {
+            lines[number - 1] = !isDrop ? QString() : lines[(number == 235 ? 170 : number) - 1];
+        }
+        return lines;
     }
 
     QStringList SavedLines(const RenameOptions& options)
     {
-        Save(options);
-        return platform::ReadLines(path_).value_or(QStringList());
+        const auto save = isDrop ? documents::SaveRenameDrop : documents::SaveRenameConfig;
+        EXPECT_TRUE(save(options, path).IsOk());
+        EXPECT_FALSE(save(options, path + u"/none"_qs).IsOk());
+        return platform::ReadLines(path).value_or(QStringList());
     }
 
-    void Load(RenameOptions& options)
+    // Loads a document given as a .rfg.
+    void Load(RenameOptions& options, const QStringList& lines, const QString& end = u"\r\n"_qs)
     {
-        if (IsDrop()) {
-            documents::LoadRnp(options, path_);
-        } else {
-            EXPECT_TRUE(documents::LoadRenameConfig(options, path_).IsOk());
-        }
+        const QStringList stored = lines.mid(isDrop ? 1 : 0) << QString();
+        folder.Write(u"recipe"_qs, stored.join(end).toUtf8());
+        EXPECT_TRUE(isDrop || documents::LoadRenameConfig(options, path).IsOk());
+        isDrop ? documents::LoadRnp(options, path) : void();
     }
 
-    void LoadLines(RenameOptions& options, const QStringList& lines, const QString& end = u"\r\n"_qs)
-    {
-        folder_.Write(u"recipe"_qs, lines.isEmpty() ? QByteArray() : (lines.join(end) + end).toUtf8());
-        Load(options);
-    }
-
-    std::mt19937 dice_{4};
-    testing_support::TempFolder folder_;
-    QString path_ = folder_.Path() + u"recipe"_qs;
+    std::mt19937 dice{4};
+    testing_support::TempFolder folder;
+    QString path = folder.Path() + u"recipe"_qs;
 };
 
-TEST_P(RenameDocument, StandsLineByLineWhereItAlwaysStood)
+TEST_P(RenameDocument, HoldsEachControlAtItsLineWhereverItIsCutOff)
 {
-    for (int round = 0; round < 20; ++round) {
-        RenameOptions options = Distinct(u"\u00e4 "_qs, dice_);
-        QStringList lines = SavedLines(options);
-        ASSERT_EQ(lines.size(), 241 + HeaderLines());
-        if (IsDrop()) {
-            lines.prepend(u"File Rename Settings"_qs);
-        }
-        EXPECT_EQ(lines[0], u"File Rename Settings"_qs);
-        for (int i = 0; i < 13; ++i) {
-            const ActionList::Entry& entry = options.List3.entries[static_cast<std::size_t>(i)];
-            EXPECT_EQ(lines[1 + 2 * i], entry.text);
-            EXPECT_EQ(lines[2 + 2 * i], entry.Selected ? u"True"_qs : u"False"_qs);
-        }
-        EXPECT_EQ(lines[27], QString::number(options.List3.currentIndex));
-        const Table table(options);
-        EXPECT_EQ(table.Lines().size(), 242U - 28U);
-        for (const Line& line : table.Lines()) {
-            QString expected = TextOf(line);
-            if (std::count(std::begin(OmittedMasks), std::end(OmittedMasks), line.number) > 0) {
-                expected = IsDrop() ? expected : QString();
+    RenameOptions before;
+    before.replaceFirst.cmbFirst.frameRVisible = true;
+    before.length.Text18 = u"never stored"_qs;
+    before.compose.lstCompose = {u"never stored"_qs};
+    before.replace.txtReplaceA.letterCase = OptionGroup(AlphaCounterBlock::Lowercase);
+    before.extension.change = OptionGroup(ExtensionOptions::Option42);
+    before.List3 = {};
+    const QStringList old = Controls(before);
+    before.List3 = ActionList::OfAllActions();
+    const QString marks[] = {u"\u00e4 \U0001F600#"_qs, u""_qs, QString(300, u'x') + u'#'};
+    for (std::size_t round = 0; round < 12; ++round) {
+        const QStringList document = AnyDocument(marks[round % 3]);
+        RenameOptions loaded;
+        for (qsizetype count = round < 2 ? 1 : 242; count <= 242; ++count) {
+            Load(loaded = before, document.mid(0, count), count % 2 == 0 ? u"\r\n"_qs : u"\n"_qs);
+            QStringList expected = document.mid(0, count) + old.mid(count);
+            if (count >= 45) {
+                expected[44 - 1] = document[45 - 1]; // set a second time
             }
-            if (IsDrop() && line.number == ComposeMaskLine) {
-                expected = options.prefix.cmbPrefix.mask;
-            }
-            EXPECT_EQ(lines[line.number - 1], expected) << "line " << line.number;
+            expected[45 - 1] = old[45 - 1]; // and this one by no line
+            expected[182 - 1] = expected[184 - 1] = expected[(count < 184 ? 182 : 184) - 1];
+            ASSERT_EQ(Controls(loaded), expected) << count << " lines, round " << round;
+            EXPECT_EQ(loaded.List3.entries.size(), std::size_t(std::min<qsizetype>(13, count / 2)));
         }
+        EXPECT_EQ(SavedLines(loaded), WithMasksAsStored(Controls(loaded)).mid(isDrop ? 1 : 0));
+        EXPECT_EQ(loaded.length.Text18, before.length.Text18);
+        EXPECT_EQ(loaded.compose.lstCompose, before.compose.lstCompose);
+        EXPECT_TRUE(loaded.replace.txtReplaceA.letterCase == before.replace.txtReplaceA.letterCase);
     }
-    const QByteArray bytes = folder_.Content(u"recipe"_qs);
-    EXPECT_EQ(bytes.count("\r\n"), 241 + HeaderLines());
-    EXPECT_EQ(bytes.count('\n') + bytes.count('\r'), 2 * (241 + HeaderLines()));
-    EXPECT_TRUE(bytes.endsWith("\r\n"));
-    EXPECT_TRUE(bytes.contains("\xC3\xA4 41\r\n"));
-
-    RenameOptions empty;
-    empty.List3 = {};
-    EXPECT_EQ(SavedLines(empty).size(), 241 + HeaderLines()) << "thirteen pairs, whatever the list holds";
-}
-
-TEST_P(RenameDocument, ComesBackButForWhatStaysBehind)
-{
-    for (int round = 0; round < 50; ++round) {
-        const RenameOptions saved = Distinct(u"saved "_qs, dice_);
-        RenameOptions before = Distinct(u"before "_qs, dice_);
-        Save(saved);
-        RenameOptions loaded = before;
-        Load(loaded);
-
-        RenameOptions expected = saved;
-        expected.compose.lstCompose = before.compose.lstCompose;
-        expected.replace.txtReplaceA.letterCase = before.replace.txtReplaceA.letterCase;
-        expected.length.Text18 = before.length.Text18;
-        expected.replaceFirst.cmbFirst.frameCVisible = saved.replaceFirst.cmbFirst.frameRVisible;
-        expected.replaceFirst.cmbFirst.frameRVisible = before.replaceFirst.cmbFirst.frameRVisible;
-        expected.compose.cmbCompose.mask = IsDrop() ? saved.prefix.cmbPrefix.mask : QString();
-        if (!IsDrop()) {
-            for (QString* mask : {&expected.replaceAll.cmbAll.mask, &expected.insert.cmbInsertS.mask,
-                                  &expected.suffix.cmbSuffix.mask, &expected.prefix.cmbPrefix.mask}) {
-                mask->clear();
-            }
-        }
-        // Only "Uppercase" is stored: a False leaves Lowercase as it is and takes Uppercase away.
-        const Table wanted(expected);
-        const Table replaced(before);
-        for (std::size_t i = 0; i < wanted.Lines().size(); ++i) {
-            if (IsLetterCase(wanted.Lines()[i]) && TextOf(wanted.Lines()[i]) == u"False"_qs) {
-                OptionGroup& group = *std::get<Button>(wanted.Lines()[i].control).group;
-                group = *std::get<Button>(replaced.Lines()[i].control).group;
-                group.Set(AlphaCounterBlock::Uppercase, false);
-            }
-        }
-        ASSERT_EQ(SavedLines(loaded), SavedLines(expected)) << "round " << round;
-        ASSERT_TRUE(loaded == expected) << "round " << round;
-    }
-}
-
-// Loads the first lines of a document and compares each control with the line that lands on it. Line n of
-// the table is read from line n - shift of the file.
-void ExpectLanded(const QStringList& file, int shift, RenameOptions& loaded, RenameOptions& before)
-{
-    const Table now(loaded);
-    const Table then(before);
-    for (std::size_t i = 0; i < now.Lines().size(); ++i) {
-        const Line& line = now.Lines()[i];
-        const int at = line.number - shift - 1;
-        const QString text = at < file.size() ? file[at] : TextOf(then.Lines()[i]);
-        const bool isText = std::holds_alternative<QString*>(line.control);
-        const bool isWord =
-            std::holds_alternative<bool*>(line.control) && (text == u"True"_qs || text == u"False"_qs);
-        // The two that are set by two lines show the last of them, and the one that no line sets stays.
-        const bool isOdd = line.number == 44 || line.number == 45 || line.number == 182 || line.number == 184;
-        if ((isText || isWord) && !isOdd) {
-            ASSERT_EQ(TextOf(line), text) << "line " << line.number << " of " << file.size();
-        }
-    }
-}
-
-TEST_P(RenameDocument, CutOffAtAnyLineLoadsWhatIsThere)
-{
-    const QStringList all = SavedLines(Distinct(u"saved "_qs, dice_));
-    RenameOptions before = Distinct(u"before "_qs, dice_);
-    for (qsizetype count = HeaderLines(); count <= all.size(); ++count) {
-        RenameOptions loaded = before;
-        const QStringList lines = all.mid(0, count);
-        LoadLines(loaded, lines, count % 2 == 0 ? u"\r\n"_qs : u"\n"_qs);
-        ExpectLanded(lines, IsDrop() ? 1 : 0, loaded, before);
-        EXPECT_EQ(loaded.List3.entries.size(),
-                  static_cast<std::size_t>(std::min<qsizetype>(13, (count - HeaderLines() + 1) / 2)));
-        if (count < 28 - 1 + HeaderLines()) {
-            EXPECT_EQ(loaded.List3.currentIndex, -1);
-        }
-    }
+    before.List3 = {};
+    SavedLines(before); // thirteen pairs, whatever the list holds
+    EXPECT_EQ(folder.Content(u"recipe"_qs).count("\r\n"), isDrop ? 241 : 242);
 }
 
 TEST_P(RenameDocument, ValuesThatDoNotConvertLeaveTheirControls)
 {
-    RenameOptions options;
-    const QStringList good = SavedLines(options);
-    const auto loaded = [&](int number, const QStringList& values) {
-        QStringList lines = good;
-        for (const QString& value : values) {
-            lines[number - 2 + HeaderLines()] = value;
-            ++number;
-        }
-        RenameOptions result;
-        result.insert.Check2 = result.replaceMid.cmbMid.frameAVisible = true;
-        LoadLines(result, lines);
-        return result;
+    RenameOptions before;
+    before.insert.Check2 = true;
+    before.replaceMid.cmbMid.frameAVisible = before.replaceMid.cmbMid.frameCVisible = true;
+    before.suffix.cmbSuffix.letters.letterCase = OptionGroup(AlphaCounterBlock::Lowercase);
+    const std::tuple<const char*, qsizetype, QStringList, QStringList> rows[] = {
+        {"no boolean leaves a frame as it was", 63, {u"x"_qs, u""_qs}, {Yes, Yes}},
+        {"blanks, case and numbers convert", 64, {u" false "_qs, u"-1"_qs}, {No, Yes}},
+        {"no number leaves a check box as it was", 120, {u"x"_qs}, {u"1"_qs}},
+        {"nor does a check box have a third state", 120, {u"2"_qs}, {u"1"_qs}},
+        {"there is no action behind it", 28, {u"13"_qs}, {u"-1"_qs}},
+        {"no number makes none current", 28, {u"x"_qs}, {u"-1"_qs}},
+        {"no boolean selects no action", 3, {u"x"_qs}, {No}},
+        {"False on the button that is on leaves none on", 179, {No, No, No}, {No, No, No}},
+        {"True on two buttons leaves the last on", 179, {Yes, Yes, No}, {No, Yes, No}},
+        {"no booleans leave the button that was on", 179, {u"x"_qs, u""_qs, u"2,"_qs}, {Yes, No, No}},
+        {"a letter case has one line alone", 59, {No}, {No}},
     };
-    for (const auto& [text, value] : {std::pair(u"x"_qs, true),
-                                      {u""_qs, true},
-                                      {u"False"_qs, false},
-                                      {u"0"_qs, false},
-                                      {u" true "_qs, true},
-                                      {u"-1"_qs, true}}) {
-        EXPECT_EQ(loaded(63, {text}).replaceMid.cmbMid.frameAVisible, value) << text.toStdString();
-    }
-    for (const auto& [text, value] :
-         {std::pair(u"x"_qs, true), {u""_qs, true}, {u"0"_qs, false}, {u"1"_qs, true}}) {
-        EXPECT_EQ(loaded(120, {text}).insert.Check2, value) << text.toStdString();
-    }
-    for (const auto& [text, index] :
-         {std::pair(u"12"_qs, 12), {u"-1"_qs, -1}, {u"13"_qs, -1}, {u"x"_qs, -1}}) {
-        EXPECT_EQ(loaded(28, {text}).List3.currentIndex, index) << text.toStdString();
-    }
-    EXPECT_FALSE(loaded(3, {u"x"_qs}).List3.entries[0].Selected);
-
-    const QString yes = u"True"_qs;
-    const QString no = u"False"_qs;
-    const std::pair<QStringList, int> groups[] = {
-        {{no, yes, no}, 1},   {{no, no, yes}, 2},     {{no, no, no}, OptionGroup::None}, {{yes, yes, no}, 1},
-        {{yes, yes, yes}, 2}, {{u"x"_qs, no, no}, 0}, {{no, u"x"_qs, u""_qs}, -1},       {{yes, no, no}, 0},
-    };
-    for (const auto& [lines, chosen] : groups) { // the first button is on before
-        EXPECT_EQ(loaded(179, lines).length.take.Chosen(), chosen) << lines.join(u' ').toStdString();
+    for (const auto& [name, number, lines, controls] : rows) {
+        QStringList document = Controls(before);
+        std::copy(lines.begin(), lines.end(), document.begin() + number - 1);
+        RenameOptions loaded = before;
+        Load(loaded, document);
+        EXPECT_EQ(Controls(loaded).mid(number - 1, controls.size()), controls) << name;
+        EXPECT_TRUE(loaded.suffix.cmbSuffix.letters.letterCase.IsOn(AlphaCounterBlock::Lowercase));
+        EXPECT_TRUE(number != 59 || loaded.replaceFirst.cmbFirst.letters.letterCase.Chosen() == -1);
     }
 }
 
 INSTANTIATE_TEST_SUITE_P(Forms, RenameDocument, testing::Bool(),
                          [](const auto& form) { return form.param ? "Drop" : "Config"; });
 
-TEST(RenameConfig, AnyOtherFirstLineIsAnInvalidFile)
+TEST(RenameDocuments, OthersTakeTheActionsAwayAndAConfigAsADropLandsOneLineOutOfStep)
 {
     testing_support::TempFolder folder;
-    const QByteArray body = "Replace All\r\nTrue\r\n";
-    for (const QByteArray& content :
-         {QByteArray(), QByteArray("\r\n"), body, "file rename settings\r\n" + body,
-          "File Rename Settings \r\n" + body}) {
-        folder.Write(u"recipe"_qs, content);
-        for (const QString& name : {u"recipe"_qs, u"missing"_qs}) {
-            RenameOptions options;
-            const platform::Status status = documents::LoadRenameConfig(options, folder.Path() + name);
-            EXPECT_EQ(status.Description(), u"Invalid File"_qs) << content.constData();
-            EXPECT_TRUE(options.List3.entries.empty());
-            options.List3 = RenameOptions().List3;
-            EXPECT_TRUE(options == RenameOptions());
-        }
-    }
-}
-
-TEST(RenameDrop, AConfigLandsOneLineOutOfStep)
-{
-    testing_support::TempFolder folder;
-    std::mt19937 dice(7);
     const QString path = folder.Path() + u"recipe"_qs;
-    ASSERT_TRUE(documents::SaveRenameConfig(Distinct(u"saved "_qs, dice), path).IsOk());
-    RenameOptions before = Distinct(u"before "_qs, dice);
-    RenameOptions loaded = before;
-    documents::LoadRnp(loaded, path);
-    const QStringList lines = platform::ReadLines(path).value_or(QStringList());
-    ExpectLanded(lines, 1, loaded, before);
-    EXPECT_EQ(loaded.List3.entries[0].text, u"File Rename Settings"_qs);
-    EXPECT_FALSE(loaded.List3.entries[0].Selected) << "the name of an action is no boolean";
-    EXPECT_EQ(loaded.length.Text37, lines[182]) << "whatever Option19 was";
-
-    folder.Write(u"film"_qs, QByteArray("Replace All\r\n").repeated(100'000));
-    for (const QString& noRecipe : {u"missing"_qs, u"film"_qs}) {
-        loaded = before;
-        documents::LoadRnp(loaded, folder.Path() + noRecipe);
-        EXPECT_TRUE(loaded.List3.entries.empty()) << noRecipe.toStdString();
-        loaded.List3 = before.List3;
-        EXPECT_TRUE(loaded == before) << noRecipe.toStdString();
+    const QByteArray header = "File Rename Settings", body = "\r\nReplace All\r\nTrue\r\n";
+    RenameOptions noActions;
+    noActions.List3 = {};
+    for (const QByteArray& content : {QByteArray(), body, header.toLower() + body, header + ' ' + body,
+                                      header + body.repeated(100'000)}) {
+        folder.Write(u"recipe"_qs, content);
+        RenameOptions loaded;
+        EXPECT_EQ(documents::LoadRenameConfig(loaded, path).Description(), u"Invalid File"_qs);
+        EXPECT_TRUE(loaded == noActions) << content.left(30).constData();
     }
+    for (const QString& name : {u"recipe"_qs, u"missing"_qs}) { // the last one is too long for a drop too
+        RenameOptions loaded;
+        documents::LoadRnp(loaded, folder.Path() + name);
+        EXPECT_TRUE(loaded == noActions) << name.toStdString();
+    }
+    RenameOptions loaded;
+    ASSERT_TRUE(documents::SaveRenameConfig(loaded, path).IsOk());
+    const QStringList saved = Controls(loaded);
+    documents::LoadRnp(loaded, path);
+    for (const int number : {2, 29, 35, 41, 60, 80, 99, 117, 142, 178, 194, 221, 225, 241}) {
+        EXPECT_EQ(Controls(loaded)[number - 1], saved[number - 2]) << "line " << number;
+    }
+    EXPECT_FALSE(loaded.List3.entries[0].Selected) << "the name of an action is no boolean";
 }
 
 } // namespace

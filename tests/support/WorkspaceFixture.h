@@ -39,6 +39,8 @@ protected:
         state.CheckedCount = mainList.CheckedCount();
     }
 
+    void Remove(const QString& name) { fs::remove((folder.Path() + name).toStdString()); }
+
     // These actions run, in this order.
     void Select(const QStringList& names)
     {

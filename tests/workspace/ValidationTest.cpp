@@ -5,62 +5,16 @@
 
 namespace {
 
-using namespace workspace;
-using model::ValidationState;
-
-using States = std::vector<ValidationState>;
-constexpr int NoStop = -1;
-
-// The scan as people know it: for each row not yet marked, look for the next one with its target, mark both,
-// start over. StopFlag is raised when row `stopAfter` is done for the first time; 0: before the scan.
-struct SlowScan
-{
-    States states;
-    bool isFinished = true;
-    bool flagIsSet = false;
-
-    SlowScan(const GridPre& grid, int stopAfter)
-    {
-        const int count = grid.RowCount();
-        const auto target = [&grid](int row) {
-            return grid.Row(row).path + grid.Row(row).preview;
-        };
-        for (int row = 1; row <= count; ++row) {
-            const bool isSame = grid.Row(row).preview == grid.Row(row).original;
-            states.push_back(isSame ? ValidationState::NotChanged : ValidationState::Changed);
-        }
-        flagIsSet = stopAfter == 0;
-        int done = 0;
-        for (int i = 1; i <= count; ++i) {
-            bool foundPair = false;
-            for (int j = i + 1; j <= count && !foundPair; ++j) {
-                if (flagIsSet) {
-                    flagIsSet = false;
-                    isFinished = false;
-                    return;
-                }
-                foundPair = State(i) != ValidationState::Duplicate && target(i) == target(j);
-                if (foundPair) {
-                    State(i) = State(j) = ValidationState::Duplicate;
-                }
-            }
-            if (foundPair) {
-                i = 0;
-            } else if (i > done) {
-                done = i;
-                flagIsSet = flagIsSet || i == stopAfter;
-            }
-        }
-    }
-
-    ValidationState& State(int row) { return states[static_cast<std::size_t>(row - 1)]; }
-};
+using enum model::ValidationState;
+using States = std::vector<model::ValidationState>;
 
 class Validation : public testing_support::WorkspaceFixture
 {
 protected:
-    States StatesOfGrid() const
+    States Validated(const std::vector<model::RenameRow>& rows)
     {
+        workspace.grid.SetRows(rows);
+        workspace.cmdValidate_Click();
         States states;
         for (int row = 1; row <= workspace.grid.RowCount(); ++row) {
             states.push_back(workspace.grid.Row(row).state);
@@ -68,90 +22,53 @@ protected:
         return states;
     }
 
-    void SetRows(const std::vector<std::array<const char16_t*, 3>>& rows) // path, original, preview
+    std::mt19937 dice{20261114};
+    QString OneOf(const QString& texts)
     {
-        std::vector<model::RenameRow> made(rows.size());
-        for (std::size_t i = 0; i < rows.size(); ++i) {
-            made[i].path = QString::fromUtf16(rows[i][0]);
-            made[i].original = QString::fromUtf16(rows[i][1]);
-            made[i].preview = QString::fromUtf16(rows[i][2]);
-        }
-        workspace.grid.SetRows(std::move(made));
+        return texts.split(u' ')[qsizetype(dice()) % (texts.count(u' ') + 1)];
     }
 };
 
+// The scan as people know it: each row not yet marked looks for the next one with its target, and marks both.
 TEST_F(Validation, ColoursAreThoseOfTheSlowScan)
 {
-    std::mt19937 dice(20261114);
-    const auto oneOf = [&dice](const std::vector<const char16_t*>& texts) {
-        return texts[dice() % texts.size()];
-    };
-    for (int round = 0; round < 3000; ++round) {
-        std::vector<std::array<const char16_t*, 3>> rows(dice() % 9);
-        for (auto& row : rows) {
-            row = {oneOf({u"/p/", u"/p/", u"/q/"}), oneOf({u"a", u"b"}),
-                   oneOf({u"a", u"a", u"A", u"b", u""})};
+    for (int round = 0; round < 1000; ++round) {
+        std::vector<model::RenameRow> rows(dice() % 9);
+        States expected;
+        for (model::RenameRow& row : rows) {
+            row.path = OneOf(u"/p/ /p/ /p/q/"_qs);
+            row.original = OneOf(u"a b"_qs);
+            row.preview = OneOf(u"a a A b  q/a"_qs); // one of them is empty
+            expected.push_back(row.preview == row.original ? NotChanged : Changed);
         }
-        SetRows(rows);
-        const int count = static_cast<int>(rows.size());
-        const int stopAfter = static_cast<int>(dice() % static_cast<unsigned>(count + 2)) - 1;
-        const SlowScan expected(workspace.grid, stopAfter);
-        state.StopFlag.Clear();
-        if (stopAfter == 0) {
-            state.StopFlag.Set();
-        } else if (stopAfter != NoStop) {
-            host.StopAtYield(stopAfter);
+        for (std::size_t i = 0; i < rows.size(); ++i) {
+            for (std::size_t j = i + 1; j < rows.size() && expected[i] != Duplicate; ++j) {
+                if (rows[i].path + rows[i].preview == rows[j].path + rows[j].preview) {
+                    expected[i] = expected[j] = Duplicate;
+                }
+            }
         }
-        host.TakeEvents();
-        workspace.cmdValidate_Click();
-        const bool isReady = host.TakeEvents().endsWith(u"status Ready"_qs);
-        ASSERT_EQ(StatesOfGrid(), expected.states) << "round " << round << ", stop behind row " << stopAfter;
-        ASSERT_EQ(state.StopFlag.IsSet(), expected.flagIsSet) << "round " << round << ", stop " << stopAfter;
-        ASSERT_EQ(isReady, expected.isFinished) << "round " << round;
+        ASSERT_EQ(Validated(rows), expected) << "round " << round;
     }
 }
 
-TEST_F(Validation, ColoursTellWhatAUserAsks)
+TEST_F(Validation, AStopKeepsTheColoursSoFarAndItsStatus)
 {
-    constexpr auto same = ValidationState::NotChanged;
-    constexpr auto changed = ValidationState::Changed;
-    constexpr auto duplicate = ValidationState::Duplicate;
-    const struct
-    {
-        const char* name;
-        std::vector<std::array<const char16_t*, 3>> rows;
-        States states;
-    } cases[] = {
-        {"an empty name is a change", {{u"/p/", u"a", u""}, {u"/p/", u"b", u"b"}}, {changed, same}},
-        {"case makes names different",
-         {{u"/p/", u"x", u"a.txt"}, {u"/p/", u"y", u"A.txt"}},
-         {changed, changed}},
-        {"two folders", {{u"/p/", u"x", u"a"}, {u"/q/", u"y", u"a"}}, {changed, changed}},
-        {"the whole path counts", {{u"/p/", u"x", u"q/a"}, {u"/p/q/", u"y", u"a"}}, {duplicate, duplicate}},
-        {"another row's old name is free", {{u"/p/", u"x", u"y"}, {u"/p/", u"y", u"z"}}, {changed, changed}},
-        {"the third of three stays",
-         {{u"/p/", u"x", u"a"}, {u"/p/", u"a", u"a"}, {u"/p/", u"z", u"a"}},
-         {duplicate, duplicate, changed}},
+    std::vector<model::RenameRow> rows(4);
+    rows[0].preview = rows[2].preview = u"x"_qs;
+    rows[1].preview = rows[3].preview = u"y"_qs;
+    const std::tuple<int, States, QString> cases[] = {
+        {1, {Duplicate, Changed, Duplicate, Changed}, u"status Validating New Names; value 1"_qs},
+        {2, {Duplicate, Duplicate, Duplicate, Duplicate}, u"value 1; value 3"_qs},
+        {3, {Duplicate, Duplicate, Duplicate, Duplicate}, u"value 4; value 0; status Ready"_qs}, // too late
+        {0, {Changed, Changed, Changed, Changed}, u"max 4; status Validating New Names"_qs},     // still set
     };
-    for (const auto& row : cases) {
-        SetRows(row.rows);
-        workspace.cmdValidate_Click();
-        EXPECT_EQ(StatesOfGrid(), row.states) << row.name;
+    for (const auto& [stopAt, states, lastEvents] : cases) {
+        host.AtYield(stopAt, [this] { state.StopFlag.Set(); });
+        EXPECT_EQ(Validated(rows), states) << stopAt;
+        EXPECT_TRUE(host.TakeEvents().endsWith(lastEvents)) << stopAt;
+        EXPECT_EQ(state.StopFlag.IsSet(), stopAt == 3);
     }
-    EXPECT_EQ(GridPre::ColourOf(changed), 0xACF9B8U);
-    EXPECT_EQ(GridPre::ColourOf(same), 0x00FFFFU);
-    EXPECT_EQ(GridPre::ColourOf(duplicate), 0xFF0000U);
-}
-
-TEST_F(Validation, AStopLeavesItsStatus)
-{
-    SetRows({{u"/p/", u"a", u"x"}, {u"/p/", u"b", u"y"}, {u"/p/", u"c", u"y"}});
-    host.StopAtYield(1);
-    workspace.cmdValidate_Click();
-    EXPECT_EQ(host.TakeEvents(), u"value 0; max 3; status Validating New Names; value 1"_qs);
-    workspace.grid.Clear();
-    workspace.cmdValidate_Click();
-    EXPECT_EQ(host.TakeEvents(), u"value 0; max 0; status Validating New Names; value 0; status Ready"_qs);
 }
 
 } // namespace
