@@ -41,7 +41,7 @@ QDateTime ModifiedMoment(const model::NameContext& row)
     if (!row.modified) {
         throw model::ActionError(platform::DescriptionOf(platform::ConversionFault::TypeMismatch));
     }
-    return QDateTime::fromSecsSinceEpoch(*row.modified);
+    return platform::LocalMoment(*row.modified);
 }
 
 } // namespace

@@ -8,6 +8,7 @@
 #include <charconv>
 #include <chrono>
 #include <cmath>
+#include <ctime>
 #include <limits>
 #include <string>
 #include <string_view>
@@ -210,9 +211,21 @@ QString RoundedQuotientText(float value, int divisor)
     return SingleText(static_cast<float>(tenths / 10.0));
 }
 
+QDateTime LocalMoment(qint64 secondsSinceEpoch)
+{
+    [[maybe_unused]] static const bool isZoneRead = (tzset(), true);
+    const auto seconds = static_cast<std::time_t>(secondsSinceEpoch);
+    std::tm local{};
+    if (!localtime_r(&seconds, &local)) {
+        return QDateTime::fromSecsSinceEpoch(secondsSinceEpoch); // a year past all clocks
+    }
+    return QDateTime::fromSecsSinceEpoch(secondsSinceEpoch, Qt::OffsetFromUTC,
+                                         static_cast<int>(local.tm_gmtoff));
+}
+
 QString ModifiedText(qint64 secondsSinceEpoch)
 {
-    return QDateTime::fromSecsSinceEpoch(secondsSinceEpoch).toString(QStringLiteral("yyyy/MM/dd HH:mm:ss"));
+    return LocalMoment(secondsSinceEpoch).toString(QStringLiteral("yyyy/MM/dd HH:mm:ss"));
 }
 
 std::optional<QDateTime> ToMoment(const QString& text)

@@ -45,6 +45,10 @@ QString SingleText(float value);
 // writes it. RoundedQuotientText(1536, 1024) is "1.5".
 QString RoundedQuotientText(float value, int divisor);
 
+// A file's time in the local zone, as it is set when the program starts. Its fields are those of the local
+// clock; unlike QDateTime's own conversion it asks the disk for nothing, which a long list would feel.
+QDateTime LocalMoment(qint64 secondsSinceEpoch);
+
 // The text of a file's time in the local zone: "yyyy/MM/dd hh:mm:ss". What ToMoment reads back.
 QString ModifiedText(qint64 secondsSinceEpoch);
 
