@@ -4,6 +4,8 @@
 #include "app/Settings.h"
 #include "app/Starts.h"
 #include "documents/RenameDocument.h"
+#include "documents/ui/frmRenDrop.h"
+#include "documents/ui/frmRenListMan.h"
 #include "platform/CommandTail.h"
 #include "workspace/CommandLine.h"
 #include "workspace/ui/ReadableStyle.h"
@@ -14,6 +16,7 @@
 #include <QFileDialog>
 #include <QScreen>
 #include <QStyle>
+#include <QTimer>
 
 namespace {
 
@@ -21,7 +24,9 @@ namespace {
 struct Program
 {
     explicit Program(model::RunHost& host) : workspace({state, mainList, host, clock, random, programFolder})
-    {}
+    {
+        app::ApplySettings(app::ReadSettings(programFolder), state, workspace.options);
+    }
 
     platform::ProgramFolder programFolder = platform::ProgramFolder::OfThisProcess();
     model::AppState state;
@@ -60,8 +65,31 @@ void ChooseFiles(QWidget& window, Program& program, bool hasCommandLine)
     }
 }
 
-// Shows the rename workspace: empty, with the files of a list start, or with a rename drop that is to be
-// confirmed.
+void ShowCentred(QWidget& window)
+{
+    const QRect screen = window.screen()->availableGeometry();
+    const QPoint centred = screen.center() - window.rect().center();
+    window.move(qMax(screen.left(), centred.x()), qMax(screen.top(), centred.y()));
+    window.show();
+}
+
+// Shows the window in which a person confirms each file of a rename drop. The process ends with it.
+int RunDropWindow(char* programName, const QStringList& items)
+{
+    int argc = 1;
+    QApplication application(argc, &programName);
+    QApplication::setStyle(new workspace::ReadableStyle(QApplication::style()->name()));
+    QApplication::setQuitOnLastWindowClosed(false); // a message about the recipe comes before the window
+    workspace::WindowHost host;
+    Program program(host);
+    app::PrepareDrop(items, program.workspace, program.mainList, program.state);
+    documents::frmRenDrop window(program.workspace.grid, &QApplication::quit);
+    window.adjustSize();
+    ShowCentred(window);
+    return QApplication::exec();
+}
+
+// Shows the rename workspace: empty, or with the files of a list start.
 int RunWorkspace(char* programName, workspace::Start start, const QString& commandLine)
 {
     int argc = 1; // the arguments are files and recipes; none of them is for the toolkit
@@ -70,6 +98,7 @@ int RunWorkspace(char* programName, workspace::Start start, const QString& comma
     workspace::WindowHost host;
     Program program(host);
     workspace::frmRenamer* shown = nullptr;
+    documents::frmRenListMan* manager = nullptr; // made on first use; the window owns it
     workspace::frmRenamer window(
         program.workspace, program.state, program.random,
         {
@@ -77,23 +106,28 @@ int RunWorkspace(char* programName, workspace::Start start, const QString& comma
                 [&program](const QString& path) {
                     return documents::SaveRenameDrop(program.workspace.options, path);
                 },
-            .manage = {},
+            .manage =
+                [&] {
+                    if (!manager) {
+                        manager = new documents::frmRenListMan(
+                            program.workspace.options, program.programFolder,
+                            [shown] { shown->ShowOptions(); }, shown);
+                    }
+                    manager->Open();
+                },
             .fileSelection = [&] { ChooseFiles(*shown, program, !commandLine.isEmpty()); },
             .closed = &QApplication::quit,
         });
     shown = &window;
     host.Attach(window.HostControls());
-    const QRect screen = window.screen()->availableGeometry();
-    window.move(screen.center() - window.rect().center());
-    window.show();
+    ShowCentred(window);
     if (start == workspace::Start::List) {
-        program.state.SkipNextFolderEvent = true;
-        app::HandOverFiles(workspace::ParseListCommandLine(commandLine), program.mainList, program.state);
-        program.workspace.RefillIfChanged(true);
-    } else if (start == workspace::Start::Drop) {
-        app::PrepareDrop(workspace::ParseDropCommandLine(commandLine), program.workspace, program.mainList,
-                         program.state);
-        window.ShowOptions();
+        // Once events are handled, so that Exit ends the program while the files are loaded, too.
+        QTimer::singleShot(0, &window, [&program, &commandLine] {
+            program.state.SkipNextFolderEvent = true;
+            app::HandOverFiles(workspace::ParseListCommandLine(commandLine), program.mainList, program.state);
+            program.workspace.RefillIfChanged(true);
+        });
     }
     return QApplication::exec();
 }
@@ -105,9 +139,9 @@ int main(int argc, char** argv)
     QCoreApplication::setApplicationName(QStringLiteral("Quillmark"));
     const QString commandLine = platform::BuildCommandTail(platform::ArgumentsOf(argc, argv));
     const workspace::Start start = workspace::ChooseStart(commandLine);
-    const bool asks = app::ReadShowRenameDrop(platform::ProgramFolder::OfThisProcess()) == 1;
-    if (start == workspace::Start::Drop && !asks) {
-        return RunSilentDrop(argv[0], workspace::ParseDropCommandLine(commandLine));
+    if (start == workspace::Start::Drop) {
+        const bool asks = app::ReadSettings(platform::ProgramFolder::OfThisProcess()).ShowRenameDrop == 1;
+        return (asks ? RunDropWindow : RunSilentDrop)(argv[0], workspace::ParseDropCommandLine(commandLine));
     }
     return RunWorkspace(argv[0], start, commandLine);
 }

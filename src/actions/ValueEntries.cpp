@@ -26,4 +26,22 @@ const QStringList& ValueEntriesWithoutCase()
     return entries;
 }
 
+const QStringList& ExtensionEntries()
+{
+    static const QStringList entries{QStringLiteral("$Counter$"), QStringLiteral("$AlphaCounter$"),
+                                     QStringLiteral("$Random String$"), QStringLiteral("$Exif Data$")};
+    return entries;
+}
+
+const QStringList& ExifChangeEntries()
+{
+    static const QStringList entries = [] {
+        QStringList list = ValueEntries();
+        list.removeOne(QStringLiteral("$MP3 Data$"));
+        list.replace(list.indexOf(QStringLiteral("$AlphaCounter$")), QStringLiteral("$Alphacounter$"));
+        return list;
+    }();
+    return entries;
+}
+
 } // namespace actions

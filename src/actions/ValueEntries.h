@@ -14,4 +14,11 @@ const QStringList& ValueEntries();
 // For Insert, Suffix, Prefix and Compose: the same without the three case entries.
 const QStringList& ValueEntriesWithoutCase();
 
+// For Extension: its single value and the cells of its list.
+const QStringList& ExtensionEntries();
+
+// For the cells of the list of Exif changes, which spells "$Alphacounter$" in its own way and has no MP3
+// data.
+const QStringList& ExifChangeEntries();
+
 } // namespace actions

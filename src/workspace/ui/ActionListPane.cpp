@@ -7,24 +7,32 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
 namespace workspace {
+
+constexpr int LeastRows = 8; // that a low window leaves on show
 
 ActionListPane::ActionListPane(actions::ActionList& actions, QWidget* parent)
     : QWidget(parent), actions_(actions), list_(new OrderList(this))
 {
     list_->setObjectName(QStringLiteral("List3"));
     list_->setAccessibleName(tr("Actions"));
+    list_->setMinimumHeight(list_->fontMetrics().lineSpacing() * LeastRows);
     auto* caption = new QLabel(tr("Actions"), this);
     caption->setBuddy(list_);
     QPushButton* up = NewButton(QLatin1String("cmdUp"), tr("Move Up"));
     QPushButton* down = NewButton(QLatin1String("cmdDown"), tr("Move Down"));
-    up->setShortcut(Qt::CTRL | Qt::Key_Up);
-    down->setShortcut(Qt::CTRL | Qt::Key_Down);
-    up->setToolTip(up->shortcut().toString(QKeySequence::NativeText));
-    down->setToolTip(down->shortcut().toString(QKeySequence::NativeText));
+    const auto addKey = [this](QPushButton& button, const QKeySequence& key) {
+        // Only while the focus is in this pane: elsewhere the key may mean something else.
+        auto* shortcut = new QShortcut(key, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
+        connect(shortcut, &QShortcut::activated, &button, &QPushButton::click);
+        button.setToolTip(key.toString(QKeySequence::NativeText));
+    };
+    addKey(*up, Qt::CTRL | Qt::Key_Up);
+    addKey(*down, Qt::CTRL | Qt::Key_Down);
     QLabel* hint = NewHint(tr("(Change order also by dragging with mouse.)"));
 
     auto* buttons = new QHBoxLayout;

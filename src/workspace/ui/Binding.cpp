@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "workspace/ui/Binding.h"
 
+#include "workspace/ui/Fields.h"
+
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
@@ -35,6 +37,7 @@ void Binder::Text(QLineEdit& box, QString& value)
 
 void Binder::Combo(QComboBox& combo, QString& value)
 {
+    PassWheelWithoutFocus(combo);
     QObject::connect(&combo, &QComboBox::editTextChanged, &combo,
                      [&value](const QString& text) { value = text; });
     OnShow([&combo, &value] {
@@ -46,6 +49,7 @@ void Binder::Combo(QComboBox& combo, QString& value)
 
 void Binder::DropDown(QComboBox& combo, QString& value)
 {
+    PassWheelWithoutFocus(combo);
     QObject::connect(&combo, &QComboBox::textActivated, &combo,
                      [&value](const QString& text) { value = text; });
     OnShow([&combo, &value] {

@@ -3,6 +3,8 @@
 
 #include "workspace/GridPre.h"
 
+#include <QPainter>
+
 namespace workspace {
 
 std::optional<QColor> CellColour(const QModelIndex& index)
@@ -25,6 +27,20 @@ void ColourDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelI
     if (const auto colour = CellColour(index)) {
         option->backgroundBrush = *colour;
         option->palette.setColor(QPalette::Text, TextColourOn(*colour));
+        option->state &= ~QStyle::State_Selected;
+    }
+}
+
+void ColourDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                           const QModelIndex& index) const
+{
+    QStyledItemDelegate::paint(painter, option, index);
+    if ((option.state & QStyle::State_Selected) && CellColour(index)) {
+        constexpr int width = 2;
+        painter->save();
+        painter->setPen(QPen(option.palette.highlight(), width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        painter->drawRect(option.rect.adjusted(width / 2, width / 2, -width / 2, -width / 2));
+        painter->restore();
     }
 }
 

@@ -2,6 +2,7 @@
 //
 // ColourDelegate: paints the cells of GridPre and RunLog in the colour that the row's state gives them. These
 // colours are the same in light and dark, so the text on them is chosen by the colour and not by the palette.
+// A coloured cell keeps its colour when it is selected, and gets a frame.
 #pragma once
 
 #include <QColor>
@@ -23,6 +24,9 @@ class ColourDelegate : public QStyledItemDelegate
 
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override;
 
 protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;

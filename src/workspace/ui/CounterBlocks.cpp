@@ -87,12 +87,13 @@ AlphaCounterBlockWidget::AlphaCounterBlockWidget(const ActionControls& names,
     tools.binder.Choice({upper, lower}, block.letterCase);
 }
 
-MaskBlockWidget::MaskBlockWidget(const ActionControls& names, QString& mask, Help help,
-                                 const PanelTools& tools)
+MaskBlockWidget::MaskBlockWidget(QLatin1String boxName, QLatin1String testName, QString& mask, Help help,
+                                 Binder& binder, model::RandomSource& random)
 {
-    QLineEdit* box = NewBox(names.mask, 16);
-    tools.binder.Text(*box, mask);
-    QPushButton* test = NewButton(names.test, tr("Test"));
+    QLineEdit* box = NewBox(boxName, 16);
+    binder.Text(*box, mask);
+    QPushButton* test = NewButton(testName, tr("Test"));
+    test->setAutoDefault(false); // Enter is no press that lasts
     test->setToolTip(tr("Shows a sample while the button is held down"));
 
     auto* columns = new QHBoxLayout(this);
@@ -116,7 +117,7 @@ MaskBlockWidget::MaskBlockWidget(const ActionControls& names, QString& mask, Hel
         const QSignalBlocker quiet(box); // the mask stays what it is
         box->setText(text);
     };
-    model::RandomSource& random = tools.random;
+    // Held down by the left mouse button, or by the space bar.
     connect(test, &QPushButton::pressed, this,
             [show, &mask, &random] { show(actions::RandomString(mask, random)); });
     connect(test, &QPushButton::released, this, [show, &mask] { show(mask); });

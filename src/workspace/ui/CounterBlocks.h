@@ -8,8 +8,11 @@
 #include "model/Ports.h"
 #include "workspace/ui/ActionControls.h"
 #include "workspace/ui/Binding.h"
+#include "workspace/ui/Pickers.h"
 
 #include <QWidget>
+
+#include <functional>
 
 namespace workspace {
 
@@ -18,6 +21,9 @@ struct PanelTools
 {
     Binder& binder;
     model::RandomSource& random; // for the samples of a mask
+    Pickers& pickers;
+    std::function<void()> editReplaceList;   // opens the list of the action Replace
+    std::function<void()> editExtensionList; // opens the list of the action Extension
 };
 
 class CounterBlockWidget final : public QWidget
@@ -45,7 +51,9 @@ class MaskBlockWidget final : public QWidget
 public:
     enum class Help { Long, Short };
 
-    MaskBlockWidget(const ActionControls& names, QString& mask, Help help, const PanelTools& tools);
+    // The names are those of the box and the button. The references outlive the widget.
+    MaskBlockWidget(QLatin1String boxName, QLatin1String testName, QString& mask, Help help, Binder& binder,
+                    model::RandomSource& random);
 };
 
 } // namespace workspace

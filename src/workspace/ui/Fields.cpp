@@ -2,6 +2,8 @@
 #include "workspace/ui/Fields.h"
 
 #include <QCheckBox>
+#include <QComboBox>
+#include <QEvent>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -11,6 +13,27 @@
 #include <QVBoxLayout>
 
 namespace workspace {
+namespace {
+
+class WheelGuard final : public QObject
+{
+public:
+    explicit WheelGuard(QComboBox& combo) : QObject(&combo), combo_(combo) {}
+
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::Wheel && !combo_.hasFocus()) {
+            event->ignore();
+            return true;
+        }
+        return false;
+    }
+
+private:
+    QComboBox& combo_;
+};
+
+} // namespace
 
 QString ElementName(QLatin1String array, int index)
 {
@@ -85,6 +108,12 @@ QHBoxLayout& AddRow(QBoxLayout& column)
     auto* row = new QHBoxLayout;
     column.addLayout(row);
     return *row;
+}
+
+void PassWheelWithoutFocus(QComboBox& combo)
+{
+    combo.setFocusPolicy(Qt::StrongFocus); // the wheel gives no focus either
+    combo.installEventFilter(new WheelGuard(combo));
 }
 
 QLabel* NewHint(const QString& text)

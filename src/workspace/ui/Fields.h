@@ -9,6 +9,7 @@
 
 class QBoxLayout;
 class QCheckBox;
+class QComboBox;
 class QGroupBox;
 class QHBoxLayout;
 class QLabel;
@@ -42,6 +43,10 @@ QVBoxLayout& ColumnOf(QGroupBox& frame);
 
 // A new row at the end of a column.
 QHBoxLayout& AddRow(QBoxLayout& column);
+
+// Lets the mouse wheel pass over a combo that hasn't got the focus: it scrolls what the combo stands in
+// instead of picking another entry.
+void PassWheelWithoutFocus(QComboBox& combo);
 
 // A line of quiet explanation.
 QLabel* NewHint(const QString& text);

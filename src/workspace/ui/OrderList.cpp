@@ -4,6 +4,7 @@
 #include "actions/RenameOptions.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScrollBar>
 
@@ -23,8 +24,18 @@ int OrderList::RowUnder(const QMouseEvent& event) const
                                         verticalScrollBar()->value(), count()));
 }
 
+bool OrderList::IsOver(const QMouseEvent& event) const
+{
+    return viewport()->rect().contains(event.position().toPoint());
+}
+
 void OrderList::mousePressEvent(QMouseEvent* event)
 {
+    // A click on a check box, too, is a click on its row.
+    if (QListWidgetItem* item = itemAt(event->position().toPoint());
+        item && event->button() == Qt::LeftButton) {
+        setCurrentItem(item);
+    }
     QListWidget::mousePressEvent(event);
     dragging_ = false;
     dragRow_ = -1;
@@ -44,26 +55,41 @@ void OrderList::mouseMoveEvent(QMouseEvent* event)
     if (!dragging_ && way.manhattanLength() < QApplication::startDragDistance()) {
         return;
     }
-    if (!dragging_) {
-        dragging_ = true;
-        viewport()->setCursor(Qt::ClosedHandCursor);
-    }
-    setCurrentRow(RowUnder(*event));
+    dragging_ = true;
+    viewport()->setCursor(IsOver(*event) ? Qt::ClosedHandCursor : Qt::ForbiddenCursor);
+    setCurrentRow(IsOver(*event) ? RowUnder(*event) : dragRow_);
 }
 
 void OrderList::mouseReleaseEvent(QMouseEvent* event)
 {
-    const int from = dragRow_;
-    dragRow_ = -1;
     if (!dragging_ || event->button() != Qt::LeftButton) {
+        dragRow_ = -1;
         QListWidget::mouseReleaseEvent(event); // a plain click, which may hit a check box
         return;
     }
+    const int from = dragRow_;
+    const int to = IsOver(*event) ? RowUnder(*event) : from;
+    EndDrag(to);
+    if (from != to) {
+        Q_EMIT RowDropped(from, to);
+    }
+}
+
+void OrderList::keyPressEvent(QKeyEvent* event)
+{
+    if (dragging_ && event->key() == Qt::Key_Escape) {
+        EndDrag(dragRow_);
+        return;
+    }
+    QListWidget::keyPressEvent(event);
+}
+
+void OrderList::EndDrag(int row)
+{
+    setCurrentRow(row);
     dragging_ = false;
+    dragRow_ = -1;
     viewport()->unsetCursor();
-    const int to = RowUnder(*event);
-    setCurrentRow(to);
-    Q_EMIT RowDropped(from, to);
 }
 
 } // namespace workspace

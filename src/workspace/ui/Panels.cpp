@@ -148,7 +148,7 @@ QWidget* Panels::Replace(actions::ReplaceOptions& options) const
 {
     QGroupBox* panel = NewFrame(QLatin1String("frmReplace"), tr("Replace"));
     QPushButton* edit = NewButton(QLatin1String("cmdReplaceOptions"), tr("Replace Options"));
-    edit->setEnabled(false);
+    QObject::connect(edit, &QPushButton::clicked, edit, tools_.editReplaceList);
     QHBoxLayout& row = AddRow(ColumnOf(*panel));
     row.addWidget(edit);
     row.addStretch(1);
@@ -166,7 +166,7 @@ QWidget* Panels::Extension(actions::ExtensionOptions& options) const
     QRadioButton* invert = NewRadioButton(QStringLiteral("Option40"), tr("Invert Case"));
     tools_.binder.Choice({upper, lower, invert, replace}, options.change);
     QPushButton* edit = NewButton(QLatin1String("Command3"), tr("Replace Options"));
-    edit->setEnabled(false);
+    QObject::connect(edit, &QPushButton::clicked, edit, tools_.editExtensionList);
     QHBoxLayout& row = AddRow(column);
     row.addWidget(replace);
     row.addWidget(edit);

@@ -3,6 +3,7 @@
 
 #include "workspace/GridPre.h"
 
+#include <QComboBox>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -38,6 +39,28 @@ public:
     {
         editor->setGeometry(option.rect.adjusted(0, 1, 0, 0));
     }
+
+    // Keys that would lead to another row do nothing while a name is edited, and Tab stays at the cell.
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::KeyPress) {
+            switch (static_cast<const QKeyEvent*>(event)->key()) {
+            case Qt::Key_Up:
+            case Qt::Key_Down:
+            case Qt::Key_PageUp:
+            case Qt::Key_PageDown:
+                return true;
+            case Qt::Key_Tab:
+            case Qt::Key_Backtab:
+                Q_EMIT commitData(static_cast<QWidget*>(watched));
+                Q_EMIT closeEditor(static_cast<QWidget*>(watched));
+                return true;
+            default:
+                break;
+            }
+        }
+        return ColourDelegate::eventFilter(watched, event);
+    }
 };
 
 } // namespace
@@ -58,7 +81,7 @@ void SetUpAsList(QTableView& table)
     table.setTabKeyNavigation(false); // Tab leaves the table
 }
 
-PreviewGrid::PreviewGrid(GridPre& rows, QWidget* parent) : QTableView(parent)
+PreviewGrid::PreviewGrid(GridPre& rows, QWidget* parent) : EditableTable(parent)
 {
     setModel(&rows);
     SetUpAsList(*this);
@@ -75,16 +98,22 @@ PreviewGrid::PreviewGrid(GridPre& rows, QWidget* parent) : QTableView(parent)
     });
 }
 
-bool PreviewGrid::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event)
+bool EditableTable::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event)
 {
-    if (trigger != AnyKeyPressed || !event || event->type() != QEvent::KeyPress) {
-        return QTableView::edit(index, trigger, event);
+    QString typed;
+    if (trigger == AnyKeyPressed && event && event->type() == QEvent::KeyPress) {
+        typed = static_cast<const QKeyEvent*>(event)->text();
+        if (typed.isEmpty() || !typed.front().isPrint()) {
+            return false;
+        }
+        event = nullptr; // or the editor would get the key
     }
-    const QString typed = static_cast<const QKeyEvent*>(event)->text();
-    if (typed.isEmpty() || !typed.front().isPrint() || !QTableView::edit(index, trigger, nullptr)) {
+    if (!QTableView::edit(index, trigger, event)) {
         return false;
     }
-    if (auto* box = qobject_cast<QLineEdit*>(indexWidget(index))) {
+    QWidget* const editor = indexWidget(index);
+    const auto* combo = qobject_cast<QComboBox*>(editor);
+    if (auto* box = combo ? combo->lineEdit() : qobject_cast<QLineEdit*>(editor)) {
         const int rest = static_cast<int>(box->text().size());
         box->setText(typed + box->text());
         box->setSelection(static_cast<int>(typed.size()), rest);

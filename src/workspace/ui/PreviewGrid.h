@@ -13,10 +13,24 @@ namespace workspace {
 
 class GridPre;
 
-// Object name of the box in which a name is edited.
+// Object name of the box in which a name, or a text to be replaced, is edited.
 inline const QString NameEditor = QStringLiteral("txtEdit");
 
-class PreviewGrid final : public QTableView
+// A table whose cells are edited in place, each in a text box or an editable combo. A key that begins an edit
+// is put in front of the cell's text, and the rest is selected behind it; otherwise all of it is selected.
+class EditableTable : public QTableView
+{
+    Q_OBJECT
+
+public:
+    using QTableView::QTableView;
+
+protected:
+    using QTableView::edit;
+    bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
+};
+
+class PreviewGrid final : public EditableTable
 {
     Q_OBJECT
 
@@ -27,10 +41,6 @@ public:
 Q_SIGNALS:
     // A double click on an original name; rows count from 1.
     void OriginalDoubleClicked(int row);
-
-protected:
-    // A key that begins an edit is put in front of the cell's text, and the rest is selected behind it.
-    bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
 };
 
 // A table that only differs in its rows: equal heights, columns that share the width, no row numbers.

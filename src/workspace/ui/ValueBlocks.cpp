@@ -7,12 +7,14 @@
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QGroupBox>
+#include <QLineEdit>
 #include <QVBoxLayout>
 
 namespace workspace {
 namespace {
 
-// What a pick from the combo's list puts on show. Entries that need no block leave the letters as they are.
+// What a pick from the combo's list puts on show, unless it opens a picker, which leaves the blocks as they
+// are. Entries that need no block leave the letters as they are.
 void ShowBlocksOf(const QString& entry, actions::ValueControls& value)
 {
     const bool counter = entry == QLatin1String("$Counter$");
@@ -39,16 +41,23 @@ QGroupBox* AddBlockFrame(QVBoxLayout& column, QLatin1String name, const QString&
 
 } // namespace
 
+void SetUpValueCombo(QComboBox& combo, const QStringList& entries)
+{
+    combo.setEditable(true);
+    combo.setInsertPolicy(QComboBox::NoInsert);
+    combo.setCompleter(nullptr); // what is typed stays as typed
+    // A combo takes it for a pick when it is left with a text that is one of its entries.
+    QObject::disconnect(combo.lineEdit(), &QLineEdit::editingFinished, &combo, nullptr);
+    combo.setMaxVisibleItems(20);
+    combo.addItems(entries);
+}
+
 ValueParts NewValue(const ActionControls& names, actions::ValueControls& value, const QStringList& entries,
                     MaskBlockWidget::Help help, const PanelTools& tools)
 {
     auto* combo = new QComboBox;
     combo->setObjectName(names.combo);
-    combo->setEditable(true);
-    combo->setInsertPolicy(QComboBox::NoInsert);
-    combo->setCompleter(nullptr); // what is typed stays as typed
-    combo->setMaxVisibleItems(20);
-    combo->addItems(entries);
+    SetUpValueCombo(*combo, entries);
     tools.binder.Combo(*combo, value.combo);
 
     auto* blocks = new QWidget;
@@ -63,15 +72,20 @@ ValueParts NewValue(const ActionControls& names, actions::ValueControls& value, 
     QGroupBox* letters = AddBlockFrame(
         *column, names.letterFrame, title(QT_TRANSLATE_NOOP("ValueBlocks", "Alpha Counter")),
         new AlphaCounterBlockWidget(names, value.letters, tools), value.frameAVisible, tools.binder);
-    QGroupBox* mask =
-        AddBlockFrame(*column, names.maskFrame, title(QT_TRANSLATE_NOOP("ValueBlocks", "Random String")),
-                      new MaskBlockWidget(names, value.mask, help, tools), value.frameRVisible, tools.binder);
-    QObject::connect(combo, &QComboBox::textActivated, blocks, [=, &value](const QString& entry) {
-        ShowBlocksOf(entry, value);
-        counter->setVisible(value.frameCVisible);
-        letters->setVisible(value.frameAVisible);
-        mask->setVisible(value.frameRVisible);
-    });
+    QGroupBox* mask = AddBlockFrame(
+        *column, names.maskFrame, title(QT_TRANSLATE_NOOP("ValueBlocks", "Random String")),
+        new MaskBlockWidget(names.mask, names.test, value.mask, help, tools.binder, tools.random),
+        value.frameRVisible, tools.binder);
+    QObject::connect(combo, &QComboBox::textActivated, blocks,
+                     [=, &value, &pickers = tools.pickers](const QString& entry) {
+                         if (pickers.Pick(entry, *combo, MaskFrom::Block)) {
+                             return;
+                         }
+                         ShowBlocksOf(entry, value);
+                         counter->setVisible(value.frameCVisible);
+                         letters->setVisible(value.frameAVisible);
+                         mask->setVisible(value.frameRVisible);
+                     });
     return {combo, blocks};
 }
 

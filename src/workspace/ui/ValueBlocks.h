@@ -13,6 +13,10 @@ class QComboBox;
 
 namespace workspace {
 
+// Makes `combo` a box for free text with `entries` as its list, which says textActivated for a pick from the
+// list and for an entry typed and confirmed by Enter, but not for one that was typed or loaded and then left.
+void SetUpValueCombo(QComboBox& combo, const QStringList& entries);
+
 struct ValueParts
 {
     QComboBox* combo;

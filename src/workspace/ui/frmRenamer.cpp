@@ -6,8 +6,10 @@
 #include "workspace/ui/CellColours.h"
 #include "workspace/ui/Fields.h"
 #include "workspace/ui/Mnemonics.h"
+#include "workspace/ui/OnTop.h"
 #include "workspace/ui/Panels.h"
 #include "workspace/ui/PreviewGrid.h"
+#include "workspace/ui/ReplaceListWindow.h"
 #include "workspace/ui/frmLog.h"
 
 #include <QCheckBox>
@@ -22,6 +24,7 @@
 #include <QMessageBox>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSplitter>
@@ -30,6 +33,9 @@
 
 namespace workspace {
 namespace {
+
+// About what a title bar takes of a small screen, in pixels.
+constexpr int TitleBarHeight = 40;
 
 // The title bar of a window that offers everything but closing it.
 constexpr Qt::WindowFlags FlagsWithoutClose = Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
@@ -50,7 +56,8 @@ frmRenamer::frmRenamer(RenameWorkspace& workspace, model::AppState& state, model
       workspace_(workspace),
       state_(state),
       random_(random),
-      collaborators_(std::move(collaborators))
+      collaborators_(std::move(collaborators)),
+      pickers_(state, random)
 {
     setObjectName(QStringLiteral("frmRenamer"));
     setWindowTitle(tr("Quillmark - Renamer"));
@@ -78,7 +85,7 @@ frmRenamer::frmRenamer(RenameWorkspace& workspace, model::AppState& state, model
     connect(actions_, &ActionListPane::CurrentActionChanged, this, &frmRenamer::ShowCurrentPanel);
     ShowCurrentPanel();
     AssignMnemonics(*this);
-    resize(1000, 720);
+    resize(QSize(1000, 720).boundedTo(screen()->availableSize() - QSize(0, TitleBarHeight)));
     parts->setSizes({350, 300});
 }
 
@@ -132,7 +139,10 @@ QWidget* frmRenamer::NewPanelArea()
     auto* column = new QVBoxLayout(area);
     column->setContentsMargins({});
     int widest = 0; // panels scroll up and down only
-    const Panels panels({binder_, random_});
+    const Panels panels({binder_, random_, pickers_, [this] { cmdReplaceOptions_Click(); },
+                         [this] {
+                             Command3_Click();
+                         }});
     for (const model::ActionKind kind : model::AllActionKinds) {
         QWidget* panel = panels.NewPanel(kind, workspace_.options);
         MarkAsAlternative(*panel);
@@ -188,6 +198,7 @@ QWidget* frmRenamer::NewGridArea()
     sort->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     sort->setPlaceholderText(tr("As listed"));
     sort->setCurrentIndex(-1);
+    PassWheelWithoutFocus(*sort);
 
     row.addWidget(hint);
     row.addWidget(hostControls_.rowCount, 1);
@@ -278,9 +289,7 @@ void frmRenamer::OpenOriginal(int row)
 void frmRenamer::SetOnTop(bool onTop)
 {
     state_.OnTopState = onTop ? 1 : 0;
-    const bool wasVisible = isVisible();
-    setWindowFlag(Qt::WindowStaysOnTopHint, onTop); // which hides the window
-    setVisible(wasVisible);
+    KeepOnTop(*this, onTop);
 }
 
 void frmRenamer::cmdPreview_Click()
@@ -301,6 +310,8 @@ void frmRenamer::cmdExecute_Click()
     workspace_.grid.AnnounceChanges();
     if (done && state_.ShowRenameLog == 1) {
         cmdLog_Click();
+    } else if (log_ && log_->isVisible()) {
+        log_->Reload(); // or it would go on showing the run before
     }
 }
 
@@ -359,10 +370,33 @@ void frmRenamer::cmdLog_Click()
 void frmRenamer::cmdClose_Click()
 {
     state_.StopFlag.Set();
+    for (ReplaceListWindow* list : {replaceList_, extensionList_}) {
+        if (list) {
+            list->close();
+        }
+    }
     hide();
     if (collaborators_.closed) {
         collaborators_.closed();
     }
+}
+
+void frmRenamer::OpenReplaceList(ReplaceListWindow*& window, ReplaceListKind kind)
+{
+    if (!window) {
+        window = new ReplaceListWindow(kind, workspace_.options, pickers_, this);
+    }
+    window->Open();
+}
+
+void frmRenamer::cmdReplaceOptions_Click()
+{
+    OpenReplaceList(replaceList_, ReplaceListKind::Names);
+}
+
+void frmRenamer::Command3_Click()
+{
+    OpenReplaceList(extensionList_, ReplaceListKind::Extensions);
 }
 
 } // namespace workspace

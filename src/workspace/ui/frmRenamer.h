@@ -13,6 +13,7 @@
 #include "platform/Result.h"
 #include "workspace/RenameWorkspace.h"
 #include "workspace/ui/Binding.h"
+#include "workspace/ui/Pickers.h"
 #include "workspace/ui/WindowHost.h"
 
 #include <QWidget>
@@ -29,6 +30,8 @@ namespace workspace {
 class ActionListPane;
 class frmLog;
 class PreviewGrid;
+class ReplaceListWindow;
+enum class ReplaceListKind;
 
 class frmRenamer final : public QWidget
 {
@@ -71,6 +74,7 @@ private:
     void ShowCurrentPanel();
     void OpenOriginal(int row);
     void SetOnTop(bool onTop);
+    void OpenReplaceList(ReplaceListWindow*& window, ReplaceListKind kind);
 
     // The commands of the buttons, by their names.
     void cmdPreview_Click();
@@ -84,17 +88,22 @@ private:
     void Command14_Click(); // file selection
     void cmdLog_Click();
     void cmdClose_Click();
+    void cmdReplaceOptions_Click(); // the list of the action Replace
+    void Command3_Click();          // the list of extensions
 
     RenameWorkspace& workspace_;
     model::AppState& state_;
     model::RandomSource& random_;
     Collaborators collaborators_;
     Binder binder_;
+    Pickers pickers_;
     ActionListPane* actions_ = nullptr;
     PreviewGrid* grid_ = nullptr;
     std::array<QWidget*, model::ActionKindCount> panels_{};
     WindowHost::Controls hostControls_;
     frmLog* log_ = nullptr;
+    ReplaceListWindow* replaceList_ = nullptr; // both made on first use
+    ReplaceListWindow* extensionList_ = nullptr;
 };
 
 } // namespace workspace
