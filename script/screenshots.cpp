@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 //
-// Writes the pictures of the documentation: the rename workspace with each panel, and the run log. What they
-// show is made up here, in a temporary folder, and is the same each time.
+// Writes the pictures of the documentation: the rename workspace with each panel, and the windows around it.
+// What they show is made up here, in a temporary folder, and is the same each time; only the examples in the
+// format pickers are of the day.
 //
 //   quillmark_screenshots FOLDER [--dark] [--size 800x600]
 //
 // QT_SCALE_FACTOR=2 gives them as on a screen of 200 percent.
+#include "documents/ui/frmRenDrop.h"
+#include "documents/ui/frmRenListMan.h"
 #include "fileview/FileList.h"
 #include "platform/TextFile.h"
 #include "workspace/ui/ReadableStyle.h"
@@ -13,9 +16,11 @@
 #include "workspace/ui/frmRenamer.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
 #include <QFile>
 #include <QLocale>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTextStream>
 
@@ -111,6 +116,53 @@ public:
         }
     }
 
+    // The list windows, opened as by a person.
+    void ShootReplaceLists()
+    {
+        for (const auto& [button, list] :
+             {std::pair("cmdReplaceOptions", "frmSReplace"), std::pair("Command3", "frmExtReplace")}) {
+            window_.findChild<QPushButton*>(QLatin1String(button))->click();
+            auto* opened = window_.findChild<QWidget*>(QLatin1String(list));
+            Shoot(*opened, QLatin1String(list));
+            opened->close();
+        }
+    }
+
+    // The pickers that a pick of these entries opens.
+    void ShootPickers()
+    {
+        workspace::Pickers pickers(state_, random_);
+        QComboBox combo;
+        combo.setEditable(true);
+        for (const char* entry : {"$modified_date$", "$current_time$", "$Random String$"}) {
+            pickers.Pick(QLatin1String(entry), combo, workspace::MaskFrom::Window);
+            QWidget* picker = nullptr;
+            for (QWidget* each : QApplication::topLevelWidgets()) {
+                picker = each->isVisible() && each->inherits("QDialog") ? each : picker;
+            }
+            Shoot(*picker, picker->objectName());
+        }
+    }
+
+    void ShootDrop()
+    {
+        documents::frmRenDrop drop(workspace_.grid, [] {});
+        drop.adjustSize();
+        Shoot(drop, drop.objectName());
+    }
+
+    void ShootManager()
+    {
+        for (const char* name : {"holiday pictures", "music by number", "no blanks"}) {
+            const QString path = programFolder_.PathOf(QStringLiteral("RenConfigs/"));
+            QDir().mkpath(path);
+            QFile(path + QLatin1String(name) + QLatin1String(".rfg")).open(QIODevice::WriteOnly);
+        }
+        documents::frmRenListMan manager(workspace_.options, programFolder_, [] {});
+        manager.Open();
+        Shoot(manager, manager.objectName());
+    }
+
 private:
     void FillOptions()
     {
@@ -131,6 +183,11 @@ private:
         options.prefix.cmbPrefix.combo = QStringLiteral("$Counter$");
         options.prefix.cmbPrefix.frameCVisible = true;
         options.extension.change.Set(actions::ExtensionOptions::Option41, true);
+        const QString flag = QStringLiteral("n");
+        options.replace.ReplaceList = {{flag, QStringLiteral("IMG_"), QStringLiteral("Lisbon ")},
+                                       {flag, QStringLiteral("sunset"), QStringLiteral("$Upper_Case$")},
+                                       {QStringLiteral("y"), QStringLiteral("JPG"), QString()}};
+        options.extension.ExtensionAllValue = QStringLiteral("$Counter$");
         options.clean.chkDigit = options.clean.Check12 = options.clean.Check3 = true;
         options.compose.cmbCompose.combo = QStringLiteral("$Counter$");
         options.compose.cmbCompose.frameCVisible = true;
@@ -197,6 +254,7 @@ int main(int argc, char** argv)
         QApplication::setPalette(DarkPalette());
     }
     Studio studio(arguments[1]);
+    studio.Resize(QSize(1000, 720)); // more than the screen that isn't there
     const qsizetype size = arguments.indexOf(QLatin1String("--size"));
     if (size > 0 && size + 1 < arguments.size()) {
         const QStringList sides = arguments[size + 1].split(QLatin1Char('x'));
@@ -207,5 +265,9 @@ int main(int argc, char** argv)
     }
     studio.ShootHero();
     studio.ShootLog();
+    studio.ShootReplaceLists();
+    studio.ShootPickers();
+    studio.ShootDrop();
+    studio.ShootManager();
     return 0;
 }

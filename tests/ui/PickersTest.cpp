@@ -37,64 +37,54 @@ Widget& InPicker(const char* name)
 }
 
 // Picks by the keyboard: every entry on the way is a pick too.
-void Choose(QComboBox& combo, const char* entry)
+void Choose(QComboBox& combo, const QByteArray& entry)
 {
-    for (int presses = 0; combo.currentText() != QLatin1String(entry) && presses < combo.count(); ++presses) {
+    for (int presses = 0; combo.currentText().toLatin1() != entry && presses < combo.count(); ++presses) {
         QTest::keyClick(&combo, Qt::Key_Down);
     }
-    ASSERT_EQ(combo.currentText(), QLatin1String(entry));
+    ASSERT_EQ(combo.currentText().toLatin1(), entry);
 }
-
-struct PickCase
-{
-    const char* name;
-    const char* entry;
-    const char* remembered;    // before, which is also what the picker shows
-    std::vector<Qt::Key> keys; // in the picker
-    const char* value;
-    const char* rememberedThen;
-};
 
 constexpr Qt::Key Down = Qt::Key_Down, Enter = Qt::Key_Return, Escape = Qt::Key_Escape;
 
-// clang-format off
-const PickCase PickCases[] = {
-    {"APickIsWrittenAtOnce", "$current_date$", "$dd$", {Down}, "$weekday$", "$weekday$"},
-    {"OkMakesAFilesDateTheCurrentOne", "$modified_date$", "$yy$", {Down, Enter}, "$mm$", "$mm$"},
-    {"EscapeKeepsAFilesDate", "$modified_date$", "$yy$", {Down, Down, Escape}, "$mod_month$", "$month$"},
-    {"OkWithoutAPickWritesWhatIsShown", "$modified_date$", "$mm$", {Enter}, "$mm$", "$mm$"},
-    {"EscapeWithoutAPickWritesNothing", "$current_date$", "$mm$", {Escape}, "$current_date$", "$mm$"},
-    {"ATimeHasItsOwnMemory", "$current_time$", "$hour$", {Down, Enter}, "$min$", "$min$"},
-    {"EscapeKeepsAFilesTime", "$modified_time$", "$hour$", {Qt::Key_End, Escape}, "$mod_hh_mm_ss$", "$hh_mm_ss$"},
-};
-// clang-format on
-
-class FormatPick : public testing::TestWithParam<PickCase>
-{};
-
-TEST_P(FormatPick, LeavesItsTokenInTheValue)
+TEST(FormatPickers, LeaveTheirTokenInTheValue)
 {
-    const PickCase& pick = GetParam();
-    const bool date = QByteArray(pick.entry).endsWith("date$");
-    Desk desk;
-    QString& remembered = date ? desk.state.LastDateToken : desk.state.LastTimeToken;
-    remembered = QLatin1String(pick.remembered);
-    desk.GoTo(ActionKind::Suffix);
-    Choose(desk.Find<QComboBox>("cmbSuffix"), pick.entry);
-    auto& tokens = InPicker<QComboBox>(date ? "cmbDateFormat" : "cmbTimeFormat");
-    EXPECT_EQ(OpenPicker()->windowTitle(), QLatin1String(date ? "Select Date Format" : "Select Time Format"));
-    EXPECT_EQ(tokens.currentText(), QLatin1String(pick.remembered));
-    for (const Qt::Key key : pick.keys) {
-        QTest::keyClick(&tokens, key);
+    const struct
+    {
+        const char* what;
+        QByteArray entry;
+        QByteArray remembered;     // before, which is also what the picker shows
+        std::vector<Qt::Key> keys; // in the picker
+        QByteArray value, rememberedThen;
+    } rows[] = {
+        {"a pick is written at once", "$current_date$", "$dd$", {Down}, "$weekday$", "$weekday$"},
+        {"OK makes a file's date the current one", "$modified_date$", "$yy$", {Down, Enter}, "$mm$", "$mm$"},
+        {"Escape keeps a file's date", "$modified_date$", "$yy$", {Down, Escape}, "$mod_mm$", "$mm$"},
+        {"OK without a pick", "$modified_date$", "$mm$", {Enter}, "$mm$", "$mm$"},
+        {"Escape without a pick", "$current_date$", "$mm$", {Escape}, "$current_date$", "$mm$"},
+        {"a time has its own memory", "$current_time$", "$hour$", {Down, Enter}, "$min$", "$min$"},
+        {"Escape keeps a file's time", "$modified_time$", "$min$", {Down, Escape}, "$mod_sec$", "$sec$"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
+        const bool date = row.entry.endsWith("date$");
+        Desk desk;
+        QString& remembered = date ? desk.state.LastDateToken : desk.state.LastTimeToken;
+        remembered = QString::fromLatin1(row.remembered);
+        desk.GoTo(ActionKind::Suffix);
+        Choose(desk.Find<QComboBox>("cmbSuffix"), row.entry);
+        auto& tokens = InPicker<QComboBox>(date ? "cmbDateFormat" : "cmbTimeFormat");
+        EXPECT_EQ(OpenPicker()->windowTitle(), date ? u"Select Date Format"_qs : u"Select Time Format"_qs);
+        EXPECT_EQ(tokens.currentText().toLatin1(), row.remembered);
+        for (const Qt::Key key : row.keys) {
+            QTest::keyClick(&tokens, key);
+        }
+        EXPECT_EQ(OpenPicker() != nullptr, row.keys.back() == Down);
+        EXPECT_EQ(desk.workspace.options.suffix.cmbSuffix.combo.toLatin1(), row.value);
+        EXPECT_EQ(desk.Find<QComboBox>("cmbSuffix").currentText().toLatin1(), row.value);
+        EXPECT_EQ(remembered.toLatin1(), row.rememberedThen);
     }
-    EXPECT_EQ(OpenPicker() != nullptr, pick.keys.back() == Down);
-    EXPECT_EQ(desk.workspace.options.suffix.cmbSuffix.combo, QLatin1String(pick.value));
-    EXPECT_EQ(desk.Find<QComboBox>("cmbSuffix").currentText(), QLatin1String(pick.value));
-    EXPECT_EQ(remembered, QLatin1String(pick.rememberedThen));
 }
-
-INSTANTIATE_TEST_SUITE_P(, FormatPick, testing::ValuesIn(PickCases),
-                         [](const auto& row) { return std::string(row.param.name); });
 
 TEST(PickersOnScreen, StandBelowTheirComboKeepItsBlocksAndCloseWithIt)
 {
@@ -124,14 +114,14 @@ class MaskWindow : public testing::Test
 {
 protected:
     // Picks in a combo of a window.
-    bool Pick(QComboBox& target, const QString& entry = QStringLiteral("$Random String$"))
+    bool Pick(QComboBox& target, const QString& entry = u"$Random String$"_qs)
     {
         target.setEditable(true);
         target.setEditText(entry);
         window.show();
         target.show();
         return pickers.Pick(entry, target, workspace::MaskFrom::Window, [this, open = QPointer(&target)] {
-            closed << (open ? open->currentText() : QStringLiteral("gone"));
+            closed << (open ? open->currentText() : u"gone"_qs);
         });
     }
 
@@ -145,28 +135,23 @@ protected:
 
 TEST_F(MaskWindow, WritesTheMaskHoweverItIsClosed)
 {
-    const std::map<std::string, std::function<void(QWidget & box)>> ways{
-        {"OK",
-         [](QWidget&) {
-             QTest::mouseClick(&InPicker<QWidget>("cmdRandomOk"), Qt::LeftButton);
-         }},
-        {"Enter",
-         [](QWidget& box) {
-             QTest::keyClick(&box, Enter);
-         }},
-        {"Escape",
-         [](QWidget& box) {
-             QTest::keyClick(&box, Escape);
-         }},
+    const auto press = [](Qt::Key key) {
+        return [key](QWidget& box) {
+            QTest::keyClick(&box, key);
+        };
+    };
+    const std::pair<const char*, std::function<void(QWidget&)>> ways[] = {
+        {"Enter", press(Enter)},
+        {"Escape", press(Escape)},
         {"title bar",
          [](QWidget& box) {
              box.window()->close();
          }},
-        {"the window is hidden",
+        {"its owner hides",
          [this](QWidget&) {
              window.hide();
          }},
-        {"the window takes it away",
+        {"its owner takes it away",
          [this](QWidget&) {
              pickers.Close();
          }},
@@ -176,13 +161,13 @@ TEST_F(MaskWindow, WritesTheMaskHoweverItIsClosed)
         state.LastMask.clear();
         closed.clear();
         ASSERT_TRUE(Pick(*combo));
-        EXPECT_EQ(OpenPicker()->windowTitle(), QLatin1String("Random Strings"));
+        EXPECT_EQ(OpenPicker()->windowTitle(), u"Random Strings"_qs);
         auto& box = InPicker<QLineEdit>("txtRandomMask");
-        QTest::keyClicks(&box, QStringLiteral("-"));
+        QTest::keyClicks(&box, u"-"_qs);
         close(box);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        EXPECT_EQ(closed, QStringList{QStringLiteral("$Rand$_AAaa##-")});
-        EXPECT_EQ(state.LastMask, QLatin1String("AAaa##-"));
+        EXPECT_EQ(closed, QStringList{u"$Rand$_AAaa##-"_qs});
+        EXPECT_EQ(state.LastMask, u"AAaa##-"_qs);
         EXPECT_EQ(OpenPicker(), nullptr);
     }
 }
@@ -192,15 +177,15 @@ TEST_F(MaskWindow, GivesWayToAnotherPickAndToTheEndOfItsCombo)
     QComboBox other(&window);
     Pick(other);
     Pick(*combo);
-    EXPECT_EQ(closed, QStringList{QStringLiteral("$Rand$_AAaa##")});
-    EXPECT_TRUE(Pick(*combo, QStringLiteral("$modified_date$")));
+    EXPECT_EQ(closed, QStringList{u"$Rand$_AAaa##"_qs});
+    EXPECT_TRUE(Pick(*combo, u"$modified_date$"_qs));
     EXPECT_TRUE(Pick(*combo));
-    EXPECT_EQ(combo->currentText(), QLatin1String("$Random String$")); // as picked last
+    EXPECT_EQ(combo->currentText(), u"$Random String$"_qs); // as picked last
     EXPECT_EQ(closed.size(), 1);
     other.hide();
     combo.reset();
     QCoreApplication::sendPostedEvents();
-    EXPECT_EQ(closed.mid(1), QStringList(3, QStringLiteral("gone")));
+    EXPECT_EQ(closed.mid(1), QStringList(3, u"gone"_qs));
     EXPECT_EQ(OpenPicker(), nullptr);
 }
 
