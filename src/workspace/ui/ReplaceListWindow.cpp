@@ -4,6 +4,7 @@
 #include "actions/ValueEntries.h"
 #include "workspace/ReplaceListFile.h"
 #include "workspace/ui/Fields.h"
+#include "workspace/ui/FileDialogs.h"
 #include "workspace/ui/Mnemonics.h"
 #include "workspace/ui/OnTop.h"
 #include "workspace/ui/Pickers.h"
@@ -13,7 +14,6 @@
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QComboBox>
-#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QMessageBox>
 #include <QPushButton>
@@ -22,6 +22,15 @@
 #include <QVBoxLayout>
 
 namespace workspace {
+namespace {
+
+DocumentKind ListFiles()
+{
+    return {ReplaceListWindow::tr("Strings Replace List (*.srl)"), QStringLiteral("srl")};
+}
+
+} // namespace
+
 // What makes a window of the three.
 struct ReplaceListWindow::Variant
 {
@@ -224,15 +233,11 @@ void ReplaceListWindow::Check2_Click(bool on)
 void ReplaceListWindow::Command1_Click()
 {
     FinishEdit();
-    QFileDialog dialog(this, tr("Save Replace List"));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setNameFilter(tr("Strings Replace List (*.srl)"));
-    dialog.setDefaultSuffix(QStringLiteral("srl"));
-    if (dialog.exec() != QDialog::Accepted) {
+    const auto path = AskWhereToSave(*this, tr("Save Replace List"), ListFiles());
+    if (!path) {
         return;
     }
-    const platform::Status status =
-        SaveReplaceList({markAll_->isChecked(), grid_.Rows()}, dialog.selectedFiles().constFirst());
+    const platform::Status status = SaveReplaceList({markAll_->isChecked(), grid_.Rows()}, *path);
     if (!status.IsOk()) {
         QMessageBox::information(this, tr("Strings Replacer"), status.Description());
     }
@@ -241,14 +246,12 @@ void ReplaceListWindow::Command1_Click()
 void ReplaceListWindow::Command2_Click()
 {
     FinishEdit();
-    QFileDialog dialog(this, tr("Load Replace List"));
-    dialog.setFileMode(QFileDialog::ExistingFile);
-    dialog.setNameFilter(tr("Strings Replace List (*.srl)"));
-    if (dialog.exec() != QDialog::Accepted) {
+    const auto path = AskWhatToLoad(*this, tr("Load Replace List"), ListFiles());
+    if (!path) {
         return;
     }
     ReplaceListFile list;
-    const platform::Status status = LoadReplaceList(list, dialog.selectedFiles().constFirst());
+    const platform::Status status = LoadReplaceList(list, *path);
     if (!status.IsOk()) {
         QMessageBox::information(this, tr("Strings Replacer"), status.Description());
         return;

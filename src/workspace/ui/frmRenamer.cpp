@@ -5,6 +5,7 @@
 #include "workspace/ui/ActionListPane.h"
 #include "workspace/ui/CellColours.h"
 #include "workspace/ui/Fields.h"
+#include "workspace/ui/FileDialogs.h"
 #include "workspace/ui/Mnemonics.h"
 #include "workspace/ui/OnTop.h"
 #include "workspace/ui/Panels.h"
@@ -17,7 +18,6 @@
 #include <QComboBox>
 #include <QDesktopServices>
 #include <QDir>
-#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -333,14 +333,12 @@ void frmRenamer::cmdRefresh_Click()
 
 void frmRenamer::Command12_Click()
 {
-    QFileDialog dialog(this, tr("Create Rename Drop"));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setNameFilter(tr("Rename Drop (*.rnp)"));
-    dialog.setDefaultSuffix(QStringLiteral("rnp"));
-    if (dialog.exec() != QDialog::Accepted) {
+    const auto path =
+        AskWhereToSave(*this, tr("Create Rename Drop"), {tr("Rename Drop (*.rnp)"), QStringLiteral("rnp")});
+    if (!path) {
         return;
     }
-    const platform::Status status = collaborators_.createDrop(dialog.selectedFiles().constFirst());
+    const platform::Status status = collaborators_.createDrop(*path);
     if (!status.IsOk()) {
         QMessageBox::information(this, tr("Renamer"), status.Description());
     }
