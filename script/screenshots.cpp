@@ -34,6 +34,8 @@ const QStringList SampleNames{QStringLiteral("IMG_4031.JPG"),    QStringLiteral(
                               QStringLiteral("Tram 28.jpeg"),    QStringLiteral("sunset at the river.JPG"),
                               QStringLiteral("packing list.txt")};
 
+const QString SampleFolder = QStringLiteral("/home/lisa/Pictures/Lisbon/");
+
 QPalette DarkPalette()
 {
     QPalette dark;
@@ -106,8 +108,8 @@ public:
         for (int row = 1; row <= workspace_.grid.RowCount(); ++row) {
             const QString result =
                 row == 5 ? QStringLiteral("File already exists") : QStringLiteral("Rename Successful");
-            lines << QStringList{QStringLiteral("/home/lisa/Pictures/Lisbon/"),
-                                 workspace_.grid.Row(row).original, workspace_.grid.Row(row).preview, result}
+            lines << QStringList{SampleFolder, workspace_.grid.Row(row).original,
+                                 workspace_.grid.Row(row).preview, result}
                          .join(QLatin1String(" : "));
         }
         if (platform::WriteDocument(path, lines).IsOk()) {
@@ -146,7 +148,11 @@ public:
 
     void ShootDrop()
     {
-        documents::frmRenDrop drop(workspace_.grid, [] {});
+        std::vector<model::RenameRow> rows{workspace_.grid.Row(1)};
+        rows.front().path = SampleFolder;
+        workspace::GridPre grid;
+        grid.SetRows(std::move(rows));
+        documents::frmRenDrop drop(grid, [] {});
         drop.adjustSize();
         Shoot(drop, drop.objectName());
     }
