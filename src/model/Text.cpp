@@ -10,6 +10,8 @@ namespace model {
 
 namespace {
 
+constexpr qsizetype LongestResult = 1 << 20; // units
+
 bool HasSurrogates(const QString& text)
 {
     return std::any_of(text.cbegin(), text.cend(), [](QChar unit) { return unit.isSurrogate(); });
@@ -161,6 +163,9 @@ QString Replace(const QString& text, const QString& find, const QString& with, Q
         result += QStringView(text).mid(copied, at - copied);
         result += with;
         copied = at + find.size();
+        if (result.size() > LongestResult) {
+            throw ActionError(QStringLiteral("Out of string space"));
+        }
     }
     result += QStringView(text).mid(copied);
     return result;

@@ -37,7 +37,8 @@ QString Repeat(int count, const QString& text);
 int Find(const QString& text, const QString& find, Qt::CaseSensitivity comparison);
 
 // `text` with every occurrence of `find` replaced by `with`, from the first character on. An empty `find`
-// occurs nowhere.
+// occurs nowhere. Throws ActionError where the result would have more than 2^20 units: no name is that long,
+// and a list that doubles a text again and again would take all memory.
 QString Replace(const QString& text, const QString& find, const QString& with,
                 Qt::CaseSensitivity comparison = Qt::CaseSensitive);
 

@@ -60,9 +60,14 @@ TEST_F(ListActions, ReplaceTellsWhatFailedForEachFile)
 
     options.replace.ReplaceList = Rows(u"n a $Counter$"_qs);
     options.replace.txtReplaceC.text[actions::CounterBlock::WithStep] = u"x"_qs;
-    host.Announce(u"error"_qs, u"Type mismatch"_qs);
-    host.Announce(u"error"_qs, u"Type mismatch"_qs);
+    for (int file = 0; file < 2; ++file) {
+        host.Announce(u"error"_qs, u"Type mismatch"_qs);
+    }
     EXPECT_EQ(NewNames(ActionKind::Replace, Words(u"a b aa"_qs)), Words(u"a b aa"_qs));
+
+    options.replace.ReplaceList.assign(500, {u"n"_qs, u"a"_qs, u"aa"_qs}); // doubles the name each time
+    host.Announce(u"error"_qs, u"Out of string space"_qs);
+    EXPECT_EQ(NewName(ActionKind::Replace, u"a"_qs), u"a"_qs);
 }
 
 TEST_F(ListActions, ExtensionChangesOneExtension)

@@ -36,7 +36,7 @@ QString CellsOf(const QAbstractItemModel& log)
     for (int row = 0; row < log.rowCount(); ++row) {
         for (int column = 0; column < log.columnCount(); ++column) {
             const QModelIndex cell = log.index(row, column);
-            cells += (column > 0 ? QLatin1String("|") : QLatin1String()) + cell.data().toString();
+            cells += (column > 0 ? u"|"_qs : QLatin1String()) + cell.data().toString();
             if (cell.data(workspace::RunLog::ColourRole).isValid()) {
                 cells += QLatin1Char('!');
             }
@@ -51,27 +51,27 @@ TEST(RenameLog, ShowsEveryLineOfTheFile)
     workspace::RunLog log;
     const QAbstractItemModelTester tester(&log, QAbstractItemModelTester::FailureReportingMode::Fatal);
     for (const LogCase& row : LogCases) {
-        folder.Write(QStringLiteral("templog.log"), row.file);
-        log.Load(folder.Path() + QLatin1String("templog.log"));
+        folder.Write(u"templog.log"_qs, row.file);
+        log.Load(folder.Path() + u"templog.log"_qs);
         EXPECT_EQ(CellsOf(log), QLatin1String(row.cells)) << row.name;
     }
-    log.Load(folder.Path() + QLatin1String("missing.log"));
+    log.Load(folder.Path() + u"missing.log"_qs);
     EXPECT_EQ(log.rowCount(), 0);
 }
 
 TEST(RenameLog, OpensAfterARunWithItsFailuresInRedAndClosesOnEscape)
 {
-    Desk desk(QStringList{QStringLiteral("a.txt"), QStringLiteral("b.txt")});
+    Desk desk(QStringList{u"a.txt"_qs, u"b.txt"_qs});
     desk.state.ShowRenameLog = 1;
     desk.Click("cmdRefresh");
     desk.GoTo(model::ActionKind::ReplaceAll, true);
     desk.Type("cmbAll", "same");
     desk.Click("cmdPreview");
     desk.Click("cmdExecute");
-    EXPECT_EQ(desk.files.Names(), (QStringList{QStringLiteral("b.txt"), QStringLiteral("same.txt")}));
+    EXPECT_EQ(desk.files.Names(), (QStringList{u"b.txt"_qs, u"same.txt"_qs}));
 
     auto& log = desk.Find<workspace::frmLog>("frmLog");
-    auto& grid = Find<QTableView>(log, QStringLiteral("GridLog"));
+    auto& grid = Find<QTableView>(log, u"GridLog"_qs);
     ASSERT_TRUE(QTest::qWaitFor([&log] { return QApplication::activeWindow() == &log; }));
     for (const int width : {800, 1000}) {
         log.resize(width, 400);
@@ -85,8 +85,8 @@ TEST(RenameLog, OpensAfterARunWithItsFailuresInRedAndClosesOnEscape)
         const QRect cell = grid.visualRect(grid.model()->index(row, workspace::RunLog::Result));
         return picture.pixelColor(cell.topRight() - QPoint(4, -4)).name();
     };
-    EXPECT_NE(colourOf(0), QLatin1String("#ff0000"));
-    EXPECT_EQ(colourOf(1), QLatin1String("#ff0000"));
+    EXPECT_NE(colourOf(0), u"#ff0000"_qs);
+    EXPECT_EQ(colourOf(1), u"#ff0000"_qs);
     QTest::keyClick(&grid, Qt::Key_Escape);
     EXPECT_FALSE(log.isVisible());
 }

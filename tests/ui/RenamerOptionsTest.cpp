@@ -6,6 +6,7 @@
 
 #include <QAccessible>
 #include <QComboBox>
+#include <QGroupBox>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMouseEvent>
@@ -22,7 +23,7 @@ QStringList Texts(const std::vector<actions::ActionList::Entry>& entries)
 {
     QStringList texts;
     for (const auto& entry : entries) {
-        texts << (entry.Selected ? QLatin1String("*") : QLatin1String()) + entry.text;
+        texts << (entry.Selected ? u"*"_qs : QLatin1String()) + entry.text;
     }
     return texts;
 }
@@ -44,11 +45,9 @@ void Drag(QListWidget& list, int from, int to)
 QStringList VisiblePanels(const Desk& desk)
 {
     QStringList names;
-    for (const char* name :
-         {"frmReplace", "frmReplaceFirst", "frmReplaceMid", "frmReplaceLast", "frmReplaceAll", "frmInsert",
-          "frmSuffix", "frmPrefix", "frmLength", "frmCase", "frmExtension", "frmClean", "frmCompose"}) {
-        if (desk.Find<QWidget>(name).isVisible()) {
-            names << QLatin1String(name);
+    for (const QGroupBox* panel : desk.window.findChildren<QGroupBox*>()) {
+        if (panel->isVisible() && panel->parent() == desk.Find<QWidget>("frmReplace").parent()) {
+            names << panel->objectName();
         }
     }
     return names;
@@ -57,9 +56,9 @@ QStringList VisiblePanels(const Desk& desk)
 TEST(ActionListOnScreen, IsChosenAndTickedByKeysAndShowsThePanelOfTheCurrentEntry)
 {
     Desk desk;
-    EXPECT_EQ(VisiblePanels(desk), QStringList{QStringLiteral("frmReplace")});
+    EXPECT_EQ(VisiblePanels(desk), QStringList{u"frmReplace"_qs});
     desk.GoTo(ActionKind::Insert, true);
-    EXPECT_EQ(VisiblePanels(desk), QStringList{QStringLiteral("frmInsert")});
+    EXPECT_EQ(VisiblePanels(desk), QStringList{u"frmInsert"_qs});
     EXPECT_TRUE(desk.workspace.options.List3.entries[5].Selected);
     QTest::keyClick(&desk.Use("List3"), Qt::Key_Space);
     EXPECT_FALSE(desk.workspace.options.List3.entries[5].Selected);
@@ -87,34 +86,34 @@ TEST(ActionListOnScreen, DraggingMovesTheTextAndLeavesTheMarksAtTheirPlaces)
     desk.GoTo(ActionKind::ReplaceLast, true);
     auto& list = desk.Find<QListWidget>("List3");
     Drag(list, 3, 0);
-    EXPECT_EQ(Texts(desk.workspace.options.List3.entries).mid(0, 5),
-              (QStringList{QStringLiteral("*Replace Last"), QStringLiteral("Replace"),
-                           QStringLiteral("Replace First"), QStringLiteral("*Replace Mid"),
-                           QStringLiteral("Replace All")}));
-    EXPECT_EQ(VisiblePanels(desk), QStringList{QStringLiteral("frmReplaceLast")});
+    EXPECT_EQ(Texts(desk.workspace.options.List3.entries).mid(0, 5).join(u','),
+              u"*Replace Last,Replace,Replace First,*Replace Mid,Replace All"_qs);
+    EXPECT_EQ(VisiblePanels(desk), QStringList{u"frmReplaceLast"_qs});
     EXPECT_EQ(list.item(0)->text(), model::NameOf(ActionKind::ReplaceLast));
     EXPECT_EQ(list.item(3)->checkState(), Qt::Checked);
 }
 
+using Options = actions::RenameOptions;
+using Value = actions::ValueControls;
+
 struct CountingAction
 {
     ActionKind kind;
-    QByteArray counterBoxes;
-    QByteArray letterBoxes;
-    QByteArray lowercase;
-    QByteArray combo; // empty, and so all below: the blocks stand on two tabs
-    QByteArray frames;
-    QByteArray mask;
-    actions::ValueControls& (*value)(actions::RenameOptions&);
+    // Number boxes, letter boxes, the button "Lowercase"; then, unless the blocks stand on two tabs: combo,
+    // frames, mask box.
+    QByteArray controls;
+    Value& (*value)(Options&); // null: on tabs
 
-    actions::CounterBlock& Counter(actions::RenameOptions& options) const
+    QByteArray Name(int control) const { return controls.split(' ').at(control); }
+
+    actions::CounterBlock& Counter(Options& options) const
     {
         return value                         ? value(options).counter
                : kind == ActionKind::Replace ? options.replace.txtReplaceC
                                              : options.extension.txtExtC;
     }
 
-    actions::AlphaCounterBlock& Letters(actions::RenameOptions& options) const
+    actions::AlphaCounterBlock& Letters(Options& options) const
     {
         return value                         ? value(options).letters
                : kind == ActionKind::Replace ? options.replace.txtReplaceA
@@ -122,28 +121,25 @@ struct CountingAction
     }
 };
 
-using Options = actions::RenameOptions;
-using Value = actions::ValueControls;
-
 // clang-format off
 const CountingAction CountingActions[] = {
-    {ActionKind::Replace, "txtReplaceC", "txtReplaceA", "OptRACase1", "", "", "", nullptr},
-    {ActionKind::ReplaceFirst, "txtFirstC", "txtFirstA", "OptFACase1", "cmbFirst", "frmFirst", "Text50",
+    {ActionKind::Replace, "txtReplaceC txtReplaceA OptRACase1", nullptr},
+    {ActionKind::ReplaceFirst, "txtFirstC txtFirstA OptFACase1 cmbFirst frmFirst Text50",
         [](Options& o) -> Value& { return o.replaceFirst.cmbFirst; }},
-    {ActionKind::ReplaceMid, "txtMidC", "txtMidA", "OptMACase1", "cmbMid", "frmMid", "Text53",
+    {ActionKind::ReplaceMid, "txtMidC txtMidA OptMACase1 cmbMid frmMid Text53",
         [](Options& o) -> Value& { return o.replaceMid.cmbMid; }},
-    {ActionKind::ReplaceLast, "txtLastC", "txtLastA", "OptLACase1", "cmbLast", "frmLast", "Text55",
+    {ActionKind::ReplaceLast, "txtLastC txtLastA OptLACase1 cmbLast frmLast Text55",
         [](Options& o) -> Value& { return o.replaceLast.cmbLast; }},
-    {ActionKind::ReplaceAll, "txtAllC", "txtAllA", "OptAACase1", "cmbAll", "frmReplaceAll", "Text56",
+    {ActionKind::ReplaceAll, "txtAllC txtAllA OptAACase1 cmbAll frmReplaceAll Text56",
         [](Options& o) -> Value& { return o.replaceAll.cmbAll; }},
-    {ActionKind::Insert, "txtInsertC", "txtInsertA", "OptIACase1", "cmbInsertS", "frmInsert", "Text59",
+    {ActionKind::Insert, "txtInsertC txtInsertA OptIACase1 cmbInsertS frmInsert Text59",
         [](Options& o) -> Value& { return o.insert.cmbInsertS; }},
-    {ActionKind::Suffix, "txtSuffixC", "txtSuffixA", "OptSACase1", "cmbSuffix", "frmSuffix", "Text61",
+    {ActionKind::Suffix, "txtSuffixC txtSuffixA OptSACase1 cmbSuffix frmSuffix Text61",
         [](Options& o) -> Value& { return o.suffix.cmbSuffix; }},
-    {ActionKind::Prefix, "txtPrefixC", "txtPrefixA", "OptPACase1", "cmbPrefix", "frmPrefix", "Text62",
+    {ActionKind::Prefix, "txtPrefixC txtPrefixA OptPACase1 cmbPrefix frmPrefix Text62",
         [](Options& o) -> Value& { return o.prefix.cmbPrefix; }},
-    {ActionKind::Extension, "txtExtC", "txtExtA", "OptEACase1", "", "", "", nullptr},
-    {ActionKind::Compose, "txtComposeC", "txtComposeA", "OptComACase1", "cmbCompose", "frmCompose", "Text3",
+    {ActionKind::Extension, "txtExtC txtExtA OptEACase1", nullptr},
+    {ActionKind::Compose, "txtComposeC txtComposeA OptComACase1 cmbCompose frmCompose Text3",
         [](Options& o) -> Value& { return o.compose.cmbCompose; }},
 };
 // clang-format on
@@ -178,18 +174,18 @@ TEST_P(CountingPanel, EveryBoxOfTheBlocksTypesIntoItsOwnOption)
         }
     };
     ShowBlock(desk, 0, &actions::ValueControls::frameCVisible);
-    typeInto(action.counterBoxes, action.Counter(desk.workspace.options).text);
+    typeInto(action.Name(0), action.Counter(desk.workspace.options).text);
     ShowBlock(desk, 1, &actions::ValueControls::frameAVisible);
-    typeInto(action.letterBoxes, action.Letters(desk.workspace.options).text);
-    desk.Click(action.lowercase);
+    typeInto(action.Name(1), action.Letters(desk.workspace.options).text);
+    desk.Click(action.Name(2));
     EXPECT_EQ(action.Letters(desk.workspace.options).letterCase.Chosen(),
               actions::AlphaCounterBlock::Lowercase);
     if (action.value) {
         ShowBlock(desk, 0, &actions::ValueControls::frameRVisible);
-        desk.Type(action.mask, "N#");
-        EXPECT_EQ(action.value(desk.workspace.options).mask, QLatin1String("N#"));
-        desk.Type(action.combo, "my $Counter$");
-        EXPECT_EQ(action.value(desk.workspace.options).combo, QLatin1String("my $Counter$"));
+        desk.Type(action.Name(5), "N#");
+        EXPECT_EQ(action.value(desk.workspace.options).mask, u"N#"_qs);
+        desk.Type(action.Name(3), "my $Counter$");
+        EXPECT_EQ(action.value(desk.workspace.options).combo, u"my $Counter$"_qs);
     }
 }
 
@@ -202,28 +198,27 @@ TEST_P(CountingPanel, APickFromTheListShowsTheBlockThatFeedsIt)
     }
     Desk desk;
     desk.GoTo(action.kind);
-    auto& combo = desk.Find<QComboBox>(action.combo);
+    auto& combo = desk.Find<QComboBox>(action.Name(3));
     combo.setFocus();
     QString shown;
     for (int i = 0; i < combo.count(); ++i) {
         QTest::keyClick(&combo, Qt::Key_Down);
         shown += action.value(desk.workspace.options).combo + QLatin1Char('=');
         for (const char block : {'C', 'A', 'R'}) {
-            if (desk.Find<QWidget>(action.frames + block).isVisible()) {
+            if (desk.Find<QWidget>(action.Name(4) + block).isVisible()) {
                 shown += QLatin1Char(block);
             }
         }
         shown += QLatin1Char(' ');
     }
     const bool hasStretch = combo.count() == 16;
-    EXPECT_EQ(
-        shown,
-        QLatin1String("$Counter$=C $AlphaCounter$=A ") +
-            (hasStretch ? QLatin1String("$Upper_Case$=A $Lower_Case$=A $Invert_Case$=A ") : QLatin1String()) +
-            QLatin1String(
-                "$current_date$=A $current_time$=A $modified_date$=A $modified_time$=A $filesizeB$=A "
-                "$filesizeKB$=A $filesizeMB$=A $foldername$=A $Random String$=R $Exif Data$= "
-                "$MP3 Data$= "));
+    EXPECT_EQ(shown,
+              u"$Counter$=C $AlphaCounter$=A "_qs +
+                  (hasStretch ? u"$Upper_Case$=A $Lower_Case$=A $Invert_Case$=A "_qs : QLatin1String()) +
+                  QLatin1String(
+                      "$current_date$=A $current_time$=A $modified_date$=A $modified_time$=A $filesizeB$=A "
+                      "$filesizeKB$=A $filesizeMB$=A $foldername$=A $Random String$=R $Exif Data$= "
+                      "$MP3 Data$= "));
 }
 
 INSTANTIATE_TEST_SUITE_P(, CountingPanel, testing::ValuesIn(CountingActions), [](const auto& row) {
@@ -238,10 +233,10 @@ TEST(MaskOnScreen, TestShowsASampleOnlyWhileTheButtonIsDown)
     desk.window.ShowOptions();
     auto& box = desk.Find<QLineEdit>("Text50");
     QTest::mousePress(&desk.Use("Command4"), Qt::LeftButton);
-    EXPECT_EQ(box.text(), QLatin1String("ZZzz99"));
-    EXPECT_EQ(desk.workspace.options.replaceFirst.cmbFirst.mask, QLatin1String("AAaa##"));
+    EXPECT_EQ(box.text(), u"ZZzz99"_qs);
+    EXPECT_EQ(desk.workspace.options.replaceFirst.cmbFirst.mask, u"AAaa##"_qs);
     QTest::mouseRelease(&desk.Use("Command4"), Qt::LeftButton);
-    EXPECT_EQ(box.text(), QLatin1String("AAaa##"));
+    EXPECT_EQ(box.text(), u"AAaa##"_qs);
 }
 
 TEST(InsertOnScreen, ShowsThePartOfTheModeAndKeepsAModeThatItDoesNotKnow)
@@ -257,38 +252,31 @@ TEST(InsertOnScreen, ShowsThePartOfTheModeAndKeepsAModeThatItDoesNotKnow)
         return places;
     };
     mode.setFocus();
-    const QStringList expected{QStringLiteral("100"), QStringLiteral("100"), QStringLiteral("010"),
-                               QStringLiteral("010"), QStringLiteral("001")};
+    const QStringList expected = u"100 100 010 010 001"_qs.split(u' ');
     for (int i = 0; i < expected.size(); ++i) {
         EXPECT_EQ(desk.workspace.options.insert.Mode(), i);
         EXPECT_EQ(shown(), expected[i]) << i;
         QTest::keyClick(&mode, Qt::Key_Down);
     }
-    desk.workspace.options.insert.cmbInsert = QStringLiteral("Somewhere");
+    desk.workspace.options.insert.cmbInsert = u"Somewhere"_qs;
     desk.window.ShowOptions();
-    EXPECT_EQ(desk.workspace.options.insert.cmbInsert, QLatin1String("Somewhere"));
-    EXPECT_EQ(mode.placeholderText(), QLatin1String("Somewhere"));
+    EXPECT_EQ(desk.workspace.options.insert.cmbInsert, u"Somewhere"_qs);
+    EXPECT_EQ(mode.placeholderText(), u"Somewhere"_qs);
     EXPECT_EQ(mode.currentIndex(), -1);
-    EXPECT_EQ(shown(), QLatin1String("000"));
+    EXPECT_EQ(shown(), u"000"_qs);
 }
 
-TEST(LengthOnScreen, PadBoxesKeepTheirFirstCharacter)
+TEST(CharacterPanelsOnScreen, PadBoxesKeepOneCharacterAndAClickIntoTheFillerChoosesIt)
 {
     Desk desk;
     desk.GoTo(ActionKind::Length);
     desk.Type("Text18", "xyz");
-    EXPECT_EQ(desk.workspace.options.length.Text18, QLatin1String("x"));
-    desk.Find<QLineEdit>("Text19").setText(QStringLiteral("\U0001F600abc"));
-    EXPECT_EQ(desk.workspace.options.length.Text19, QStringLiteral("\U0001F600"));
-    EXPECT_EQ(desk.Find<QLineEdit>("Text19").text(), QStringLiteral("\U0001F600"));
-}
-
-TEST(CleanOnScreen, AClickIntoTheFillerBoxChoosesIt)
-{
-    Desk desk;
+    desk.Find<QLineEdit>("Text19").setText(u"\U0001F600abc"_qs);
+    const actions::LengthOptions& length = desk.workspace.options.length;
+    EXPECT_EQ(length.Text18 + length.Text19, u"x\U0001F600"_qs);
+    EXPECT_EQ(desk.Find<QLineEdit>("Text19").text(), u"\U0001F600"_qs);
     desk.GoTo(ActionKind::Clean);
     desk.Click("Text49");
-    EXPECT_EQ(desk.workspace.options.clean.filler.Chosen(), actions::CleanOptions::Option5);
     for (const char* name : {"Check3", "Check10", "Check12", "chkVowel"}) {
         QTest::keyClick(&desk.Use(name), Qt::Key_Space);
     }
@@ -307,24 +295,18 @@ TEST(ComposeOnScreen, ElementsAreAddedMovedAndDeleted)
         desk.Type("cmbCompose", text);
         desk.Click("Command15");
     }
-    const QString random = QStringLiteral("$Random$_AAaa##");
-    const auto list = [](std::initializer_list<QString> texts) {
-        return QStringList(texts);
-    };
-    const QString a = QStringLiteral("a");
-    const QString b = QStringLiteral("b");
-    EXPECT_EQ(elements, list({a, random, b}));
-    desk.Click("cmdCDown");
-    EXPECT_EQ(elements, list({a, random, b}));
+    auto& list = desk.Find<QListWidget>("lstCompose");
+    desk.Click("cmdCDown"); // the last one stays
+    EXPECT_EQ(elements.join(u' '), u"a $Random$_AAaa## b"_qs);
     desk.Click("cmdCUp");
-    EXPECT_EQ(elements, list({a, b, random}));
-    Drag(desk.Find<QListWidget>("lstCompose"), 2, 0);
-    EXPECT_EQ(elements, list({random, a, b}));
-    EXPECT_EQ(desk.Find<QListWidget>("lstCompose").currentRow(), 0);
-    desk.Find<QListWidget>("lstCompose").setCurrentRow(2);
+    EXPECT_EQ(elements.join(u' '), u"a b $Random$_AAaa##"_qs);
+    Drag(list, 2, 0);
+    EXPECT_EQ(elements.join(u' '), u"$Random$_AAaa## a b"_qs);
+    EXPECT_EQ(list.currentRow(), 0);
+    list.setCurrentRow(2);
     desk.Click("cmdDel");
-    EXPECT_EQ(elements, list({random, a}));
-    EXPECT_EQ(desk.Find<QListWidget>("lstCompose").currentRow(), 1);
+    EXPECT_EQ(elements.join(u' '), u"$Random$_AAaa## a"_qs);
+    EXPECT_EQ(list.currentRow(), 1);
 }
 
 TEST(OptionsOnScreen, ShowingALoadedRecipeShowsItAllAndChangesNoneOfIt)
@@ -333,28 +315,28 @@ TEST(OptionsOnScreen, ShowingALoadedRecipeShowsItAllAndChangesNoneOfIt)
     actions::RenameOptions& options = desk.workspace.options;
     std::swap(options.List3.entries[0], options.List3.entries[12]);
     options.List3.entries[0].Selected = true;
-    options.replaceMid.Text13 = QStringLiteral("42");
+    options.replaceMid.Text13 = u"42"_qs;
     options.replaceFirst.cmbFirst.letters.letterCase.Set(0, false); // none on
-    options.insert.cmbInsert = QStringLiteral("Nowhere");
-    options.length.Text19 = QStringLiteral("long");
+    options.insert.cmbInsert = u"Nowhere"_qs;
+    options.length.Text19 = u"long"_qs;
     options.length.take.Set(actions::LengthOptions::Option3, true);
     options.clean.Check7 = true;
-    options.compose.cmbCompose.combo = QStringLiteral("$foldername$");
+    options.compose.cmbCompose.combo = u"$foldername$"_qs;
     options.compose.cmbCompose.frameRVisible = true;
-    options.compose.lstCompose = QStringList{QStringLiteral("x")};
+    options.compose.lstCompose = QStringList{u"x"_qs};
     options.extension.change.Set(actions::ExtensionOptions::Option40, true);
     const actions::RenameOptions loaded = options;
     desk.window.ShowOptions();
     EXPECT_EQ(options, loaded);
-    EXPECT_EQ(VisiblePanels(desk), QStringList{QStringLiteral("frmCompose")});
+    EXPECT_EQ(VisiblePanels(desk), QStringList{u"frmCompose"_qs});
     EXPECT_TRUE(desk.Find<QWidget>("frmComposeR").isVisible());
     EXPECT_EQ(desk.Find<QListWidget>("List3").item(0)->checkState(), Qt::Checked);
-    EXPECT_EQ(desk.Find<QLineEdit>("Text13").text(), QLatin1String("42"));
+    EXPECT_EQ(desk.Find<QLineEdit>("Text13").text(), u"42"_qs);
     EXPECT_FALSE(desk.Find<QRadioButton>("OptFACase0").isChecked());
     EXPECT_TRUE(desk.Find<QRadioButton>("Option3").isChecked());
     EXPECT_TRUE(desk.Find<QAbstractButton>("Check7").isChecked());
     EXPECT_TRUE(desk.Find<QRadioButton>("Option40").isChecked());
-    EXPECT_EQ(desk.Find<QComboBox>("cmbCompose").currentText(), QLatin1String("$foldername$"));
+    EXPECT_EQ(desk.Find<QComboBox>("cmbCompose").currentText(), u"$foldername$"_qs);
     EXPECT_EQ(desk.Find<QListWidget>("lstCompose").count(), 1);
     options.List3.entries.clear(); // what a recipe of another program leaves behind
     desk.window.ShowOptions();

@@ -66,19 +66,19 @@ public:
 TEST(RenamerRun, RenamesOnDiskAsPreviewedAndAsEditedByHand)
 {
     CapitalsDesk desk(List({"a.txt", "b.txt"}));
-    EXPECT_EQ(desk.Find<QLabel>("Label1").text(), QLatin1String("(2 Items)"));
+    EXPECT_EQ(desk.Find<QLabel>("Label1").text(), u"(2 Items)"_qs);
     EXPECT_EQ(desk.Previews(), List({"A.txt", "B.txt"}));
     QLineEdit& box = desk.Edit(2, Qt::Key_unknown);
-    EXPECT_EQ(box.selectedText(), QLatin1String("B.txt"));
-    QTest::keyClicks(&box, QStringLiteral("hand.txt"));
+    EXPECT_EQ(box.selectedText(), u"B.txt"_qs);
+    QTest::keyClicks(&box, u"hand.txt"_qs);
     QTest::keyClick(&box, Qt::Key_Return);
     EXPECT_TRUE(QTest::qWaitFor([&] { return desk.Previews() == List({"A.txt", "hand.txt"}); }));
     QTest::keyClick(&desk.Edit(2, Qt::Key_Y), Qt::Key_R, Qt::AltModifier); // the edit in progress counts
-    EXPECT_TRUE(QTest::qWaitFor([&] { return desk.files.Exists(QStringLiteral("A.txt")); }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return desk.files.Exists(u"A.txt"_qs); }));
 
     EXPECT_EQ(desk.files.Names(), List({"A.txt", "yhand.txt"}));
     EXPECT_EQ(desk.Column(workspace::GridPre::Original), List({"A.txt", "yhand.txt"}));
-    EXPECT_EQ(desk.Find<QLabel>("lblStatus").text(), QLatin1String("Ready"));
+    EXPECT_EQ(desk.Find<QLabel>("lblStatus").text(), u"Ready"_qs);
     EXPECT_EQ(desk.Find<QProgressBar>("ProgBar").value(), 0);
 }
 
@@ -86,8 +86,8 @@ TEST(RenamerRun, ATypedKeyStandsInFrontAndEscapeLeavesTheCell)
 {
     CapitalsDesk desk(List({"a.txt"}));
     QLineEdit& box = desk.Edit(1, Qt::Key_Q);
-    EXPECT_EQ(box.text(), QLatin1String("qA.txt"));
-    EXPECT_EQ(box.selectedText(), QLatin1String("A.txt"));
+    EXPECT_EQ(box.text(), u"qA.txt"_qs);
+    EXPECT_EQ(box.selectedText(), u"A.txt"_qs);
     QTest::keyClick(&box, Qt::Key_Escape);
     EXPECT_EQ(desk.Previews(), List({"A.txt"}));
     // Delete types nothing, and originals aren't edited.
@@ -116,8 +116,8 @@ class UrlCatcher : public QObject
     Q_OBJECT
 
 public:
-    UrlCatcher() { QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "Catch"); }
-    ~UrlCatcher() override { QDesktopServices::unsetUrlHandler(QStringLiteral("file")); }
+    UrlCatcher() { QDesktopServices::setUrlHandler(u"file"_qs, this, "Catch"); }
+    ~UrlCatcher() override { QDesktopServices::unsetUrlHandler(u"file"_qs); }
 
     QList<QByteArray> urls;
 
@@ -128,7 +128,7 @@ public Q_SLOTS:
 TEST(RenamerRun, ADoubleClickOnAnOriginalOpensTheFileByItsBytes)
 {
     UrlCatcher catcher;
-    CapitalsDesk desk(QStringList{QStringLiteral("50%#?\xDCE9 .txt")});
+    CapitalsDesk desk(QStringList{u"50%#?\xDCE9 .txt"_qs});
     const QPoint original = desk.CellAt(1, workspace::GridPre::Original);
     QTest::mouseClick(desk.Grid().viewport(), Qt::LeftButton, {}, original);
     QTest::mouseDClick(desk.Grid().viewport(), Qt::LeftButton, {}, original);
@@ -142,7 +142,7 @@ TEST(RenamerRun, StopEndsThePreviewAfterTheRowInProgress)
     Desk desk;
     std::vector<model::RenameRow> rows(3);
     for (model::RenameRow& row : rows) {
-        row.original = QStringLiteral("a.txt");
+        row.original = u"a.txt"_qs;
     }
     desk.workspace.grid.SetRows(rows);
     desk.GoTo(ActionKind::ReplaceAll, true);
@@ -152,7 +152,7 @@ TEST(RenamerRun, StopEndsThePreviewAfterTheRowInProgress)
     QTest::keyClick(&desk.Use("cmdPreview"), Qt::Key_Space);
     EXPECT_EQ(desk.Previews(), List({"A.txt", "", ""}));
     EXPECT_TRUE(desk.state.StopFlag.IsSet());
-    EXPECT_EQ(desk.Find<QLabel>("lblStatus").text(), QLatin1String("Ready"));
+    EXPECT_EQ(desk.Find<QLabel>("lblStatus").text(), u"Ready"_qs);
 }
 
 TEST(RenamerRun, ClearEmptiesThePreviewsAndAsksForANewOne)
@@ -178,7 +178,7 @@ TEST(RenamerRun, TheSortComboOrdersTheRowsUntilTheyAreRefreshed)
     EXPECT_EQ(desk.Column(workspace::GridPre::Original), List({"a", "b", "c"}));
     QTest::keyClick(&sort, Qt::Key_Down);
     EXPECT_EQ(desk.Column(workspace::GridPre::Original), List({"c", "b", "a"}));
-    EXPECT_EQ(sort.currentText(), QLatin1String("Name (Z-A)"));
+    EXPECT_EQ(sort.currentText(), u"Name (Z-A)"_qs);
     desk.Click("cmdRefresh");
     EXPECT_EQ(desk.Column(workspace::GridPre::Original), List({"b", "a", "c"}));
     EXPECT_EQ(sort.currentIndex(), -1);
@@ -187,8 +187,8 @@ TEST(RenamerRun, TheSortComboOrdersTheRowsUntilTheyAreRefreshed)
 TEST(RenamerRun, ValidationPaintsTheCellsInTheLegendsColours)
 {
     CapitalsDesk desk(List({"a.txt", "b.txt", "c.txt"}));
-    desk.Grid().model()->setData(desk.Grid().model()->index(1, 1), QStringLiteral("A.txt"), Qt::EditRole);
-    desk.Grid().model()->setData(desk.Grid().model()->index(2, 1), QStringLiteral("c.txt"), Qt::EditRole);
+    desk.Grid().model()->setData(desk.Grid().model()->index(1, 1), u"A.txt"_qs, Qt::EditRole);
+    desk.Grid().model()->setData(desk.Grid().model()->index(2, 1), u"c.txt"_qs, Qt::EditRole);
     desk.Click("cmdValidate");
     const QImage picture = desk.Grid().viewport()->grab().toImage();
     QStringList colours;
@@ -246,15 +246,14 @@ TEST(RenamerWindow, ADropIsWrittenWhereThePersonSaysAndAFailureIsShown)
     QStringList paths;
     const auto createDrop = [&paths](const QString& path) {
         paths << path;
-        return paths.size() == 1 ? platform::Status()
-                                 : platform::Status::Failure(QStringLiteral("Disk full"));
+        return paths.size() == 1 ? platform::Status() : platform::Status::Failure(u"Disk full"_qs);
     };
     Desk desk({}, {createDrop, {}, {}, {}});
     desk.Click("Command12"); // the dialog is cancelled
     EXPECT_TRUE(paths.isEmpty());
-    desk.answers.fileToChoose = desk.files.Path() + QLatin1String("holiday");
+    desk.answers.fileToChoose = desk.files.Path() + u"holiday"_qs;
     desk.Click("Command12");
-    EXPECT_EQ(paths, QStringList{desk.files.Path() + QLatin1String("holiday.rnp")});
+    EXPECT_EQ(paths, QStringList{desk.files.Path() + u"holiday.rnp"_qs});
     EXPECT_TRUE(desk.answers.TakeMessages().isEmpty());
     desk.Click("Command12");
     EXPECT_EQ(desk.answers.TakeMessages(), List({"Renamer: Disk full"}));
