@@ -3,6 +3,7 @@
 
 #include "workspace/ui/Fields.h"
 #include "workspace/ui/Mnemonics.h"
+#include "workspace/ui/WindowPlace.h"
 
 #include <QHBoxLayout>
 #include <QLineEdit>
@@ -93,9 +94,7 @@ void ManagerWindow::Open()
         name_->clear();
         list_->setFocus();
     }
-    show();
-    raise();
-    activateWindow();
+    workspace::BringUp(*this);
 }
 
 // Asks for the selection and not for the current entry, which the list has as soon as it gets the focus.

@@ -54,8 +54,10 @@ void PickerWindow::AddOk(QVBoxLayout& column, QLatin1String name)
 
 void PickerWindow::OpenBelow(const QComboBox& combo)
 {
-    resize(sizeHint()); // adjustSize would cut it short on a small screen
     const int titleBar = style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this);
+    constexpr int buttons = 5; // room for those of the title bar, each about as wide as it is high
+    const int titleWidth = fontMetrics().horizontalAdvance(windowTitle()) + buttons * titleBar;
+    resize(sizeHint().expandedTo(QSize(titleWidth, 0))); // adjustSize would cut it short on a small screen
     const QRect screen = combo.screen()->availableGeometry();
     const QPoint place = combo.mapToGlobal(QPoint(combo.width() / 2 - width() / 2, combo.height()));
     const int right = screen.right() + 1 - width();

@@ -6,10 +6,10 @@
 #include "workspace/ui/Fields.h"
 #include "workspace/ui/FileDialogs.h"
 #include "workspace/ui/Mnemonics.h"
-#include "workspace/ui/OnTop.h"
 #include "workspace/ui/Pickers.h"
 #include "workspace/ui/ReplaceTable.h"
 #include "workspace/ui/ValueBlocks.h"
+#include "workspace/ui/WindowPlace.h"
 
 #include <QCheckBox>
 #include <QCloseEvent>
@@ -172,9 +172,7 @@ void ReplaceListWindow::Open()
     if (!isVisible()) {
         ShowOptions();
     }
-    show();
-    raise();
-    activateWindow();
+    BringUp(*this);
 }
 
 void ReplaceListWindow::ShowOptions()

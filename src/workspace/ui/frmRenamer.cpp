@@ -7,10 +7,10 @@
 #include "workspace/ui/Fields.h"
 #include "workspace/ui/FileDialogs.h"
 #include "workspace/ui/Mnemonics.h"
-#include "workspace/ui/OnTop.h"
 #include "workspace/ui/Panels.h"
 #include "workspace/ui/PreviewGrid.h"
 #include "workspace/ui/ReplaceListWindow.h"
+#include "workspace/ui/WindowPlace.h"
 #include "workspace/ui/frmLog.h"
 
 #include <QCheckBox>
@@ -360,9 +360,7 @@ void frmRenamer::cmdLog_Click()
         log_ = new frmLog(workspace_.LogPath(), this);
     }
     log_->Reload();
-    log_->show();
-    log_->raise();
-    log_->activateWindow();
+    BringUp(*log_);
 }
 
 void frmRenamer::cmdClose_Click()
