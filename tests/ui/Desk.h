@@ -14,6 +14,7 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -42,13 +43,16 @@ public:
     QStringList TakeMessages() { return std::exchange(messages_, {}); }
 
     QString fileToChoose;
+    QMessageBox::StandardButton answer = QMessageBox::NoButton; // to questions that offer it
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
         if (event->type() == QEvent::Show) {
             if (auto* box = qobject_cast<QMessageBox*>(watched)) {
                 messages_ << box->windowTitle() + QLatin1String(": ") + box->text();
-                QMetaObject::invokeMethod(box, "accept", Qt::QueuedConnection);
+                QAbstractButton* const said = box->button(answer); // null: the box has no such button
+                QMetaObject::invokeMethod(said ? static_cast<QObject*>(said) : box, said ? "click" : "accept",
+                                          Qt::QueuedConnection);
             } else if (auto* dialog = qobject_cast<QFileDialog*>(watched)) {
                 dialog->selectFile(fileToChoose);
                 QMetaObject::invokeMethod(dialog, fileToChoose.isEmpty() ? "reject" : "accept",

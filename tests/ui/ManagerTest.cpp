@@ -14,20 +14,6 @@ namespace {
 
 using ui_tests::Find;
 
-// Says Yes to questions, sooner than Answers takes them without an answer.
-class Yes final : public QObject
-{
-public:
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        auto* box = event->type() == QEvent::Show ? qobject_cast<QMessageBox*>(watched) : nullptr;
-        if (box && box->button(QMessageBox::Yes)) {
-            QMetaObject::invokeMethod(box->button(QMessageBox::Yes), "click", Qt::QueuedConnection);
-        }
-        return false;
-    }
-};
-
 // The folder holds the configurations a, b, c, all of them foreign files, and two things that are none.
 class Manager : public testing::Test
 {
@@ -110,8 +96,7 @@ TEST_F(Manager, ATakenNameIsReplacedOnlyAfterAYes)
     }
     EXPECT_EQ(Kept(), u"3 a.rfg b.rfg c.rfg d.txt e.rfg new.rfg");
     EXPECT_EQ(desk.home.Content(u"RenConfigs/a.rfg"_qs), "foreign");
-    Yes yes;
-    qApp->installEventFilter(&yes);
+    desk.answers.answer = QMessageBox::Yes;
     EXPECT_EQ(Save(u"A"_qs), question);
     EXPECT_EQ(Kept(), u"3 A.rfg b.rfg c.rfg d.txt e.rfg new.rfg");
     Select(u"A"_qs);

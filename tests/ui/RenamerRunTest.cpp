@@ -97,20 +97,6 @@ TEST(RenamerRun, ATypedKeyStandsInFrontAndEscapeLeavesTheCell)
     EXPECT_TRUE(QTest::qWaitFor([&] { return !desk.window.findChild<QLineEdit*>(workspace::NameEditor); }));
 }
 
-TEST(RenamerRun, TheGridSharesItsWidthBetweenTwoColumns)
-{
-    CapitalsDesk desk(List({"a.txt"}));
-    for (const int width : {900, 1200}) {
-        desk.window.resize(width, 700);
-        EXPECT_TRUE(QTest::qWaitFor([&] {
-            const int both = desk.Grid().columnWidth(0) + desk.Grid().columnWidth(1);
-            return desk.Grid().viewport()->width() == both && both > width - 60;
-        })) << width;
-        EXPECT_LE(std::abs(desk.Grid().columnWidth(0) - desk.Grid().columnWidth(1)), 1);
-    }
-    EXPECT_TRUE(desk.Grid().isColumnHidden(2));
-}
-
 class UrlCatcher : public QObject
 {
     Q_OBJECT
