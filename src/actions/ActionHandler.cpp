@@ -9,6 +9,7 @@
 #include "actions/ListActions.h"
 #include "actions/OverwriteActions.h"
 #include "model/ActionError.h"
+#include "model/Text.h"
 
 namespace actions {
 
@@ -17,6 +18,7 @@ QString ActionHandler::NewName(const model::NameContext& row)
     QString description;
     try {
         const QString result = Work(row);
+        model::CheckLength(result.size());
         if (!result.isEmpty()) {
             return result;
         }

@@ -44,7 +44,7 @@ public:
     virtual ~ActionHandler() = default;
 
     // The new name with its extension. Never fails outward: where a text or number function fails, or the
-    // result is empty, it is the name as it came in.
+    // result is empty or longer than model::LongestText, it is the name as it came in.
     QString NewName(const model::NameContext& row);
 
 private:

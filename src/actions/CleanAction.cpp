@@ -67,9 +67,11 @@ CleanSets CleanSetsOf(const CleanOptions& options)
     return sets;
 }
 
-Clean::Clean(const CleanOptions& options)
-    : remove_(CleanSetsOf(options).RemoveSet),
-      keep_(CleanSetsOf(options).KeepSet),
+Clean::Clean(const CleanOptions& options) : Clean(options, CleanSetsOf(options)) {}
+
+Clean::Clean(const CleanOptions& options, const CleanSets& sets)
+    : remove_(sets.RemoveSet),
+      keep_(sets.KeepSet),
       removesUnkept_(options.Check12),
       filler_(options.filler.IsOn(CleanOptions::Option5) ? model::Left(options.Text49, 1)
                                                          : QStringLiteral(" "))

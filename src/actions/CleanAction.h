@@ -40,6 +40,8 @@ public:
     explicit Clean(const CleanOptions& options);
 
 private:
+    Clean(const CleanOptions& options, const CleanSets& sets);
+
     QString Work(const model::NameContext& row) override;
 
     // Replaces the characters that are in `set` (or are not in it) by the filler. A scan begins again after

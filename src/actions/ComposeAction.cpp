@@ -2,6 +2,7 @@
 #include "actions/ComposeAction.h"
 
 #include "model/GetFName.h"
+#include "model/Text.h"
 
 namespace actions {
 
@@ -26,6 +27,7 @@ QString Compose::Work(const model::NameContext& row)
         }
         value = *expanded;
         base += value;
+        model::CheckLength(base.size());
     }
     return base + model::GetFName(row.name, row.type, true);
 }

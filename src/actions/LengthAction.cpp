@@ -11,6 +11,7 @@ namespace actions {
 Length::Length(const LengthOptions& options, const LengthMeasures& measures)
     : options_(options),
       measures_(measures),
+      measure_(LengthOptions::Measures().indexOf(options.cmbLength)),
       number_(platform::ToInt16(options.cmbLength).value),
       position_(options.Text37)
 {}
@@ -19,7 +20,7 @@ QString Length::Work(const model::NameContext& row)
 {
     const QString base = model::GetFName(row.name, row.type, false);
     const QString extension = model::GetFName(row.name, row.type, true);
-    switch (LengthOptions::Measures().indexOf(options_.cmbLength)) {
+    switch (measure_) {
     case LengthOptions::LongestOriginal:
         return Longest(base, measures_.longestOriginal) + extension;
     case LengthOptions::ShortestOriginal:

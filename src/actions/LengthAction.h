@@ -35,6 +35,7 @@ private:
 
     LengthOptions options_;
     const LengthMeasures& measures_;
+    qsizetype measure_;         // of LengthOptions::Measures(), or -1
     std::optional<int> number_; // of cmbLength, if it holds one
     NumberBox position_;
 };

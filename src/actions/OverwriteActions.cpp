@@ -25,8 +25,8 @@ QString OverwriteAction::Work(const model::NameContext& row)
     }
     const QString head = model::Left(base, stretch.start - 1);
     const QString tail = model::Right(base, stretch.tail);
-    const QString middle = model::Mid(base, stretch.start, stretch.length).isEmpty() ? QString() : *value;
-    return head + middle + tail + model::GetFName(row.name, row.type, true);
+    static_cast<void>(model::Mid(base, stretch.start, stretch.length)); // fails out of range
+    return head + (piece.isEmpty() ? QString() : *value) + tail + model::GetFName(row.name, row.type, true);
 }
 
 ReplaceFirst::ReplaceFirst(const ReplaceFirstOptions& options, const RunState& run)

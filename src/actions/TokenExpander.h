@@ -2,9 +2,8 @@
 //
 // TokenExpander: turns the text of a value box, list row or list element into the value for one file. Only a
 // whole text is a token; anything else stands for itself ("My $Counter$" is literal). Words that begin a
-// longer token, such as
-// "$Exif_", are the exception: they are sought anywhere in the text. The text is looked up once, when the
-// expander is made.
+// longer token, such as "$Exif_", are the exception: they are sought anywhere in the text. The text is looked
+// up once, when the expander is made.
 #pragma once
 
 #include "actions/ActionHandler.h"

@@ -24,7 +24,7 @@ fs::path NativePath(const QString& path)
 
 bool IsSameName(const QString& a, const QString& b)
 {
-    return model::UpperCase(a) == model::UpperCase(b);
+    return a.compare(b, Qt::CaseInsensitive) == 0;
 }
 
 NamedDocuments::NamedDocuments(const platform::ProgramFolder& programFolder, const QString& folder,
@@ -45,9 +45,9 @@ QStringList NamedDocuments::Names() const
          entry.increment(failure)) {
         const QString file = platform::FromBytes(QByteArray::fromStdString(entry->path().filename()));
         std::error_code unknown; // a link that leads nowhere is no document
-        if (file.endsWith(extension_.mid(1)) && file.size() > extension_.size() &&
-            entry->is_regular_file(unknown)) {
-            names.append(file.chopped(extension_.size()));
+        if (file.endsWith(extension_.mid(1)) && entry->is_regular_file(unknown)) {
+            const int length = model::Length(file) - static_cast<int>(extension_.size());
+            names.append(length > 0 ? QStringList(model::Left(file, length)) : QStringList());
         }
     }
     return names;

@@ -15,7 +15,7 @@
 
 namespace documents {
 
-// Whether two names are one, regardless of case.
+// Whether two names are one, letter by letter and regardless of case: "Trip" is "TRIP".
 bool IsSameName(const QString& a, const QString& b);
 
 class NamedDocuments
@@ -29,7 +29,8 @@ public:
     platform::Status EnsureFolder() const;
 
     // The names of all documents in the order in which the file system lists them. A file belongs to them if
-    // its name ends in the extension's three letters; the four last characters are cut off.
+    // it is a plain file and its name ends in the extension's three letters; the four last characters are cut
+    // off. One of which nothing is left then is left out.
     QStringList Names() const;
 
     // The document that `name` would stand beside or replace: the one of exactly that name, else the first

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// The order of a rename document's lines, written down once. VisitRecipeLines walks the options in that order
-// and tells a visitor each line; saving and loading are two visitors (RenameDocument.cpp), so writer and
-// reader can't part. No line may be added, left out or moved: files in use depend on the positions.
+// The order of a rename document's lines, written down once. RecipeLines walks the options in that order and
+// tells a visitor each line; saving and loading are two visitors (RenameDocument.cpp), so writer and reader
+// can't part. No line may be added, left out or moved: files in use depend on the positions.
 //
 // Not in the file, on purpose: the elements of a composed name, the replace lists, the letter case of
 // "Replace", and Text18.

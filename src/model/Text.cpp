@@ -10,8 +10,6 @@ namespace model {
 
 namespace {
 
-constexpr qsizetype LongestResult = 1 << 20; // units
-
 bool HasSurrogates(const QString& text)
 {
     return std::any_of(text.cbegin(), text.cend(), [](QChar unit) { return unit.isSurrogate(); });
@@ -94,6 +92,13 @@ char32_t CodePoint(QStringView character)
                                  : character.front().unicode();
 }
 
+void CheckLength(qsizetype units)
+{
+    if (units > LongestText) {
+        throw ActionError(QStringLiteral("Out of string space"));
+    }
+}
+
 int Length(const QString& text)
 {
     if (!HasSurrogates(text)) {
@@ -163,9 +168,7 @@ QString Replace(const QString& text, const QString& find, const QString& with, Q
         result += QStringView(text).mid(copied, at - copied);
         result += with;
         copied = at + find.size();
-        if (result.size() > LongestResult) {
-            throw ActionError(QStringLiteral("Out of string space"));
-        }
+        CheckLength(result.size() + text.size() - copied);
     }
     result += QStringView(text).mid(copied);
     return result;

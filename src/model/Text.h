@@ -16,6 +16,13 @@ QStringView CharacterAt(const QString& text, qsizetype at);
 // The code point of one character; a lone surrogate is its own.
 char32_t CodePoint(QStringView character);
 
+// The most units that a text on its way to a name may have, far more than any name takes. Without a bound, a
+// list that doubles a text with each row would take all memory.
+inline constexpr qsizetype LongestText = 1 << 16;
+
+// Throws ActionError for a text of more units than that.
+void CheckLength(qsizetype units);
+
 // Number of characters.
 int Length(const QString& text);
 
@@ -37,8 +44,7 @@ QString Repeat(int count, const QString& text);
 int Find(const QString& text, const QString& find, Qt::CaseSensitivity comparison);
 
 // `text` with every occurrence of `find` replaced by `with`, from the first character on. An empty `find`
-// occurs nowhere. Throws ActionError where the result would have more than 2^20 units: no name is that long,
-// and a list that doubles a text again and again would take all memory.
+// occurs nowhere. Throws ActionError where the result would be longer than LongestText.
 QString Replace(const QString& text, const QString& find, const QString& with,
                 Qt::CaseSensitivity comparison = Qt::CaseSensitive);
 

@@ -20,6 +20,7 @@ namespace {
 constexpr int BufferSize = 64 * 1024;
 
 const QByteArray LineEnd = QByteArrayLiteral("\r\n");
+constexpr QByteArrayView ByteOrderMark = "\xEF\xBB\xBF";
 
 // Content of a plain file of at most `maximumSize` bytes; empty optional for anything else. Never blocks on a
 // pipe or device.
@@ -91,8 +92,9 @@ std::optional<QStringList> ReadLines(const QString& path, Fallback fallback, qin
     if (!bytes) {
         return std::nullopt;
     }
-    if (bytes->startsWith("\xEF\xBB\xBF")) {
+    if (bytes->startsWith(ByteOrderMark)) {
         bytes->remove(0, 3);
+        fallback = Fallback::NameBytes; // the mark says that it is UTF-8
     }
     if (bytes->isEmpty()) {
         return QStringList();
@@ -123,8 +125,13 @@ Status WriteDocument(const QString& path, const QStringList& lines)
         return FailureOf(errno); // a file that is marked read-only is not to be replaced
     }
     QByteArray content;
+    bool isValid = true;
     for (const QString& line : lines) {
         content += ToBytes(line) + LineEnd;
+        isValid = isValid && line.isValidUtf16();
+    }
+    if (!isValid) {
+        content.prepend(ByteOrderMark); // or the bytes of a name would be taken for an older encoding
     }
     TemporaryFile file(target);
     if (Status made = file.Create(0666); !made.IsOk()) {

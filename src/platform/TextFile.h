@@ -16,7 +16,8 @@
 
 namespace platform {
 
-// How the bytes of a file that is no valid UTF-8 are read.
+// How the bytes of a file that is no valid UTF-8 are read, unless it begins with a byte order mark: then its
+// stray bytes are those of file names.
 enum class Fallback {
     Windows1252, // documents: files written by older programs
     NameBytes,   // logs: the bytes are those of file names
@@ -30,6 +31,7 @@ std::optional<QStringList> ReadLines(const QString& path, Fallback fallback = Fa
                                      qint64 maximumSize = LargestText);
 
 // Writes a document whole or not at all: into a temporary file beside `path`, which then replaces it.
+// Where a text holds bytes of a name that is no valid UTF-8, a byte order mark says how to read them back.
 // Whatever fails (no folder, no permission, a full disk), an existing file at `path` stays as it was. A
 // read-only file and anything but a plain file are refused; a link is written through, one that leads nowhere
 // is replaced.

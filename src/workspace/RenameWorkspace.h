@@ -8,8 +8,7 @@
 // What always holds:
 //  1. The full name of a row is its Path & Original; nothing else links a row to the disk.
 //  2. Loops over rows tell their progress to the RunHost and yield once a row. Execution and what belongs to
-//  it (normal
-//     attributes, refreshing the main list) yield to nobody.
+//     it (normal attributes, refreshing the main list) yield to nobody.
 //  3. One thread. A command started while another one yields runs nested; nothing guards against it.
 #pragma once
 

@@ -65,9 +65,12 @@ TEST_F(ListActions, ReplaceTellsWhatFailedForEachFile)
     }
     EXPECT_EQ(NewNames(ActionKind::Replace, Words(u"a b aa"_qs)), Words(u"a b aa"_qs));
 
-    options.replace.ReplaceList.assign(500, {u"n"_qs, u"a"_qs, u"aa"_qs}); // doubles the name each time
+    options.replace.ReplaceList.assign(500, {u"n"_qs, u"b"_qs, u"bb"_qs}); // doubles each time
     host.Announce(u"error"_qs, u"Out of string space"_qs);
-    EXPECT_EQ(NewName(ActionKind::Replace, u"a"_qs), u"a"_qs);
+    EXPECT_EQ(NewName(ActionKind::Replace, u"abc"_qs), u"abc"_qs);
+    options.compose.cmbCompose.counter.text[actions::CounterBlock::PadTo] = u"32767"_qs;
+    options.compose.lstCompose = QStringList(1000, u"$Counter$"_qs);
+    EXPECT_EQ(NewName(ActionKind::Compose, u"abc"_qs), u"abc"_qs);
 }
 
 TEST_F(ListActions, ExtensionChangesOneExtension)

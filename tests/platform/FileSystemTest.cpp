@@ -218,7 +218,7 @@ TEST(TextFile, ADocumentReplacesWhatWasThereAndComesBack)
     folder.SetMode(u"own"_s, 0640);
     const QStringList lines{u"\u20AC\uFEFF\U0001F600"_s, QString(), u"\xDCFF"_s, u" end "_s};
     ASSERT_TRUE(WriteDocument(folder.Path() + u"link"_s, lines).IsOk());
-    EXPECT_EQ(ReadLines(folder.Path() + u"own"_s, Fallback::NameBytes), lines);
+    EXPECT_EQ(ReadLines(folder.Path() + u"own"_s), lines);
     EXPECT_EQ(folder.Content(u"own"_s).count("\r\n"), 4);
     EXPECT_EQ(folder.Mode(u"own"_s), 0640U);
     EXPECT_EQ(folder.Names(), (QStringList{u"link"_s, u"own"_s}));
