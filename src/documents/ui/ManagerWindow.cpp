@@ -92,7 +92,7 @@ void ManagerWindow::Open()
         list_->clear();
         list_->addItems(documents_.Names());
         name_->clear();
-        list_->setFocus();
+        list_->count() > 0 ? list_->setFocus() : name_->setFocus();
     }
     workspace::BringUp(*this);
 }

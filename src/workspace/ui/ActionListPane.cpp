@@ -20,6 +20,7 @@ ActionListPane::ActionListPane(actions::ActionList& actions, QWidget* parent)
 {
     list_->setObjectName(QStringLiteral("List3"));
     list_->setAccessibleName(tr("Actions"));
+    setFocusProxy(list_);
     list_->setMinimumHeight(list_->fontMetrics().lineSpacing() * LeastRows);
     auto* caption = new QLabel(tr("Actions"), this);
     caption->setBuddy(list_);

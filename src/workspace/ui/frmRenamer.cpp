@@ -84,6 +84,7 @@ frmRenamer::frmRenamer(RenameWorkspace& workspace, model::AppState& state, model
 
     connect(actions_, &ActionListPane::CurrentActionChanged, this, &frmRenamer::ShowCurrentPanel);
     ShowCurrentPanel();
+    actions_->setFocus(); // a rename begins with an action
     AssignMnemonics(*this);
     resize(QSize(1000, 720).boundedTo(screen()->availableSize() - QSize(0, TitleBarHeight)));
     parts->setSizes({350, 300});
