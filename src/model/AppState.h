@@ -27,7 +27,9 @@ struct AppState
     bool FileListChanged = false; // the main list differs from what the rename grid holds
     bool DropStart = false;       // a rename drop runs; there is no main window
     bool SkipNextFolderEvent = false;
-    int OnTopState = 0; // 1: the window that asked for it stays above others
+    bool ClosingDown = false;          // the program ends; a late scan shows nothing any more
+    bool SortNamesByMagnitude = false; // a2.txt before a10.txt, when a click on a heading sorts names
+    int OnTopState = 0;                // 1: the window that asked for it stays above others
 
     // Preferences, 0 or 1.
     int AutoRefreshRenameView = 0;
@@ -43,6 +45,8 @@ struct AppState
     QString LastDateToken;
     QString LastTimeToken;
     QString LastMask;
+
+    QString LastTargetFolder; // where checked files were copied or moved to
 
     model::StopFlag StopFlag;
 };

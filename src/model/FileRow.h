@@ -6,9 +6,17 @@
 
 #include <QString>
 
+#include <memory>
 #include <optional>
 
 namespace model {
+
+// Texts that a person wrote over the size and the date of a row; null where nothing was.
+struct WrittenTexts
+{
+    QString size;
+    QString date;
+};
 
 struct FileRow
 {
@@ -17,7 +25,8 @@ struct FileRow
     QString Path;
     QString Type;    // the type text; "File Folder" marks a folder; empty if the file wasn't found
     qint64 size = 0; // bytes
-    std::optional<qint64> modified; // seconds since the epoch; none if the file wasn't found
+    std::optional<qint64> modified;              // seconds since the epoch; none if the file wasn't found
+    std::shared_ptr<const WrittenTexts> written; // none for nearly all rows
     bool checked = false;
 };
 

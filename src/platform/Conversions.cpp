@@ -17,27 +17,6 @@ namespace platform {
 
 namespace {
 
-// The number that a text holds, in the notation of ToInt16; a hexadecimal one without its sign.
-std::optional<double> ToNumber(const QString& text)
-{
-    static const QRegularExpression decimal(QRegularExpression::anchoredPattern(
-        QStringLiteral(R"( *([+-]?(?:[0-9]+(?:\.[0-9]*)?|\.[0-9]+)(?:[eE][+-]?[0-9]+)?) *)")));
-    static const QRegularExpression hexadecimal(
-        QRegularExpression::anchoredPattern(QStringLiteral(R"( *&[hH]([0-9a-fA-F]+) *)")));
-    if (const auto match = decimal.match(text); match.hasMatch()) {
-        // A number too big for a double comes back as infinity, one too small as 0.
-        return QLocale::c().toDouble(match.capturedView(1));
-    }
-    if (const auto match = hexadecimal.match(text); match.hasMatch()) {
-        double number = 0;
-        for (const QChar digit : match.captured(1)) {
-            number = number * 16 + QString(digit).toInt(nullptr, 16);
-        }
-        return number;
-    }
-    return std::nullopt;
-}
-
 // The system's separator of hours and minutes.
 QString TimeSeparator()
 {
@@ -175,6 +154,40 @@ QString BooleanText(bool value)
     return value ? QStringLiteral("True") : QStringLiteral("False");
 }
 
+std::optional<double> ToNumber(const QString& text)
+{
+    static const QRegularExpression decimal(QRegularExpression::anchoredPattern(
+        QStringLiteral(R"( *([+-]?(?:[0-9]+(?:\.[0-9]*)?|\.[0-9]+)(?:[eE][+-]?[0-9]+)?) *)")));
+    static const QRegularExpression hexadecimal(
+        QRegularExpression::anchoredPattern(QStringLiteral(R"( *&[hH]([0-9a-fA-F]+) *)")));
+    if (const auto match = decimal.match(text); match.hasMatch()) {
+        // A number too big for a double comes back as infinity, one too small as 0.
+        return QLocale::c().toDouble(match.capturedView(1));
+    }
+    if (const auto match = hexadecimal.match(text); match.hasMatch()) {
+        double number = 0;
+        for (const QChar digit : match.captured(1)) {
+            number = number * 16 + QString(digit).toInt(nullptr, 16);
+        }
+        return number;
+    }
+    return std::nullopt;
+}
+
+double LeadingNumber(const QString& text)
+{
+    static const QRegularExpression number(
+        QStringLiteral(R"(^[ \t]*([+-]?(?:[0-9]+(?:\.[0-9]*)?|\.[0-9]+)(?:[eE][+-]?[0-9]+)?))"));
+    return QLocale::c().toDouble(number.match(text).capturedView(1));
+}
+
+QString ShortestSingleText(float value)
+{
+    std::array<char, 32> text{};
+    const auto end = std::to_chars(text.begin(), text.end(), value).ptr;
+    return QString::fromLatin1(text.data(), end - text.data());
+}
+
 QString SingleText(float value)
 {
     if (value == 0.0F) {
@@ -228,7 +241,7 @@ QString ModifiedText(qint64 secondsSinceEpoch)
     return LocalMoment(secondsSinceEpoch).toString(QStringLiteral("yyyy/MM/dd HH:mm:ss"));
 }
 
-std::optional<QDateTime> ToMoment(const QString& text)
+std::optional<ClockReading> ToClockReading(const QString& text)
 {
     static const QRegularExpression form(QRegularExpression::anchoredPattern(
         QStringLiteral(R"(([0-9]{3,4})/([0-9]{1,2})/([0-9]{1,2})(?: ([0-9]{1,2}):([0-9]{2}):([0-9]{2}))?)")));
@@ -241,9 +254,17 @@ std::optional<QDateTime> ToMoment(const QString& text)
     };
     const QDate date(part(1), part(2), part(3));
     const QTime time(part(4), part(5), part(6)); // groups that took no part read 0
-    if (!date.isValid() || !time.isValid() || date.year() < 100) {
+    const bool isReal = date.isValid() && time.isValid() && date.year() >= 100;
+    return isReal ? std::optional(ClockReading{date, time}) : std::nullopt;
+}
+
+std::optional<QDateTime> ToMoment(const QString& text)
+{
+    const auto reading = ToClockReading(text);
+    if (!reading) {
         return std::nullopt;
     }
+    const auto& [date, time] = *reading;
     const QDateTime moment(date, time);
     // A time that summer time skips: a whole day after the same time of the day before, which exists.
     return moment.isValid() ? moment : QDateTime(date.addDays(-1), time).addDuration(std::chrono::hours(24));

@@ -36,10 +36,21 @@ std::optional<bool> ToBoolean(const QString& text);
 // "True" or "False".
 QString BooleanText(bool value);
 
+// The number that a whole text holds, in ToInt16's notation but of any size, rounded nowhere; a hexadecimal
+// one without its sign. Empty optional if it isn't numeric.
+std::optional<double> ToNumber(const QString& text);
+
+// The longest number at a text's start, blanks before it passed over: a sign, digits with a fraction, an
+// exponent. 0 if there is none. LeadingNumber("12KB") is 12.
+double LeadingNumber(const QString& text);
+
 // Default text of a single-precision number: up to seven significant digits (halves away from zero), no
 // trailing zeros, "." as separator; from 10,000,000 on, and below 0.0001, scientific like "1.234568E+07" or
 // "1E-05".
 QString SingleText(float value);
+
+// The shortest text that reads back as the same single-precision number: "799.9371", "1e+20".
+QString ShortestSingleText(float value);
 
 // `value` divided by `divisor`, a power of two, rounded to one decimal with ties to even, as SingleText
 // writes it. RoundedQuotientText(1536, 1024) is "1.5".
@@ -52,9 +63,18 @@ QDateTime LocalMoment(qint64 secondsSinceEpoch);
 // The text of a file's time in the local zone: "yyyy/MM/dd hh:mm:ss". What ToMoment reads back.
 QString ModifiedText(qint64 secondsSinceEpoch);
 
-// Reads "yyyy/MM/dd", alone (midnight) or followed by a blank and "hh:mm:ss", in the local zone; one-digit
-// months, days and hours are taken too. Empty optional for anything else and for dates that don't exist; a
-// time that the change to summer time skips is moved on by as much.
+// A moment on a clock without a zone.
+struct ClockReading
+{
+    QDate date;
+    QTime time;
+};
+
+// Reads "yyyy/MM/dd", alone (midnight) or followed by a blank and "hh:mm:ss"; one-digit months, days and
+// hours are taken too. Empty optional for anything else and for dates that don't exist.
+std::optional<ClockReading> ToClockReading(const QString& text);
+
+// The same in the local zone; a time that the change to summer time skips is moved on by as much.
 std::optional<QDateTime> ToMoment(const QString& text);
 
 // Writes a moment by a format of these words; any other character stands for itself:

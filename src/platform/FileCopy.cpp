@@ -71,14 +71,11 @@ Status OpenSource(const QByteArray& path, int flags, Descriptor& source, struct 
     return S_ISREG(info.st_mode) ? Status() : FailureOf(S_ISDIR(info.st_mode) ? EISDIR : EINVAL);
 }
 
-Status CopyAcross(const QByteArray& from, const QByteArray& to)
+// Copies an opened file to `to`, whole or not at all, with extended attributes, times and mode. The owner is
+// taken over where `keepsOwner` is set and the system allows it.
+Status CopyWhole(const Descriptor& source, const struct stat& info, const QByteArray& to, bool keepsOwner,
+                 TemporaryFile::Existing existing)
 {
-    Descriptor source;
-    struct stat info
-    {};
-    if (Status opened = OpenSource(from, O_NOFOLLOW, source, info); !opened.IsOk()) {
-        return opened;
-    }
     TemporaryFile copy(to);
     if (Status made = copy.Create(S_IRUSR | S_IWUSR); !made.IsOk()) {
         return made;
@@ -88,14 +85,23 @@ Status CopyAcross(const QByteArray& from, const QByteArray& to)
     }
     // Another owner can't be kept by everyone, and without it a file mustn't run as its owner. What follows
     // comes after it since changing the owner drops parts of it.
-    const bool isOwnerKept = ::fchown(copy.File().Number(), info.st_uid, info.st_gid) == 0;
+    const bool isOwnerKept = keepsOwner && ::fchown(copy.File().Number(), info.st_uid, info.st_gid) == 0;
     CopyAttributes(source, copy.File());
     const mode_t mode = info.st_mode & (isOwnerKept ? 07777 : 01777);
     const std::array<timespec, 2> times{info.st_atim, info.st_mtim};
     if (::fchmod(copy.File().Number(), mode) != 0 || ::futimens(copy.File().Number(), times.data()) != 0) {
         return FailureOf(errno);
     }
-    return copy.MoveIntoPlace(TemporaryFile::Existing::Refuse);
+    return copy.MoveIntoPlace(existing);
+}
+
+Status CopyAcross(const QByteArray& from, const QByteArray& to)
+{
+    Descriptor source;
+    struct stat info
+    {};
+    Status opened = OpenSource(from, O_NOFOLLOW, source, info);
+    return opened.IsOk() ? CopyWhole(source, info, to, true, TemporaryFile::Existing::Refuse) : opened;
 }
 
 // The folder part of a path, with its separator; empty for the current directory.
@@ -112,16 +118,6 @@ void SyncFolderOf(const QByteArray& path)
     if (opened.IsOpen()) {
         ::fsync(opened.Number());
     }
-}
-
-Status LinkAcross(const QByteArray& from, const QByteArray& to)
-{
-    std::array<char, PATH_MAX> pointsAt{};
-    if (::readlink(from.constData(), pointsAt.data(), pointsAt.size() - 1) < 0 ||
-        ::symlink(pointsAt.data(), to.constData()) != 0) {
-        return FailureOf(errno);
-    }
-    return {};
 }
 
 // True if both names are the same file because the file system regards no case. A file with several links is
@@ -236,6 +232,14 @@ int RenameWithoutReplacing(int fromFolder, const char* from, int toFolder, const
     return isFolder ? EOPNOTSUPP : LinkAndUnlink(fromFolder, from, toFolder, to);
 }
 
+Status CopyLink(const QByteArray& from, const QByteArray& to)
+{
+    std::array<char, PATH_MAX> pointsAt{};
+    const bool isCopied = ::readlink(from.constData(), pointsAt.data(), pointsAt.size() - 1) >= 0 &&
+                          ::symlink(pointsAt.data(), to.constData()) == 0;
+    return isCopied ? Status() : FailureOf(errno);
+}
+
 Status MoveAcrossDevices(const QByteArray& from, const QByteArray& to)
 {
     struct stat info
@@ -251,7 +255,7 @@ Status MoveAcrossDevices(const QByteArray& from, const QByteArray& to)
     if (::lstat(to.constData(), &present) == 0) {
         return FailureOf(EEXIST); // told before a long copy
     }
-    if (Status moved = S_ISLNK(info.st_mode) ? LinkAcross(from, to) : CopyAcross(from, to); !moved.IsOk()) {
+    if (Status moved = S_ISLNK(info.st_mode) ? CopyLink(from, to) : CopyAcross(from, to); !moved.IsOk()) {
         return moved;
     }
     SyncFolderOf(to);
@@ -276,12 +280,13 @@ Status CopyFile(const QString& from, const QString& to)
     if (Status opened = OpenSource(*fromPath, 0, source, info); !opened.IsOk()) {
         return opened;
     }
-    TemporaryFile copy(*toPath);
-    if (Status made = copy.Create(info.st_mode & 0777); !made.IsOk()) {
-        return made;
+    struct stat present
+    {};
+    if (::stat(toPath->constData(), &present) == 0 && present.st_dev == info.st_dev &&
+        present.st_ino == info.st_ino) {
+        return FailureOf(EEXIST); // the file itself, perhaps through a link
     }
-    return CopyContent(source, copy.File()) ? copy.MoveIntoPlace(TemporaryFile::Existing::Replace)
-                                            : FailureOf(errno);
+    return CopyWhole(source, info, *toPath, false, TemporaryFile::Existing::Replace);
 }
 
 } // namespace platform

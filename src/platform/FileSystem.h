@@ -85,8 +85,14 @@ private:
 };
 
 // Copies the file `from` to `to`, replacing a file or a link that is there; the copy is written whole or not
-// at all and takes the permissions over. Paths are complete.
+// at all and takes permissions, times and extended attributes over. A file onto itself fails with "File
+// already exists". Paths are complete.
 Status CopyFile(const QString& from, const QString& to);
+
+// Copies the folder `from` with all that is in it to `to`; links in it are made anew. A folder that isn't
+// there yet comes into being whole or not at all. In one that is there files are replaced, one after the
+// other, up to the first that fails. A folder can't be copied onto itself or into itself ("Path not found").
+Status CopyFolder(const QString& from, const QString& to);
 
 // Makes the folder `path` and every missing one above it. Success if it is there already; "File already
 // exists" if something else is.
