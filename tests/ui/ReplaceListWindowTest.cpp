@@ -171,10 +171,20 @@ TEST_F(ReplaceLists, APickerWritesIntoTheCellItWasOpenedFrom)
     QTest::keyClick(&picker, Qt::Key_Return);
     EXPECT_FALSE(combo.isVisible());
     EXPECT_EQ(Text(2, 1) + Text(2, 3), u"n$yyyy$"_qs);
+
+    grid->setCurrentIndex(Cell(3, 3));
+    Key(Qt::Key_F2);
+    auto& second = *qobject_cast<QComboBox*>(QApplication::focusWidget());
+    second.setCurrentIndex(second.findText(u"$Random String$"_qs) - 1);
+    Key(Qt::Key_Down);
+    QTest::keyClicks(&The<QLineEdit>("txtRandomMask"), u"##"_qs);
+    QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, grid->visualRect(Cell(1, 1)).center());
+    EXPECT_EQ(Text(3, 3), u"$Rand$_##"_qs) << "the mask got lost where the edit ended before its window";
 }
 
 TEST_F(ReplaceLists, ASingleExtensionStandsInForTheList)
 {
+    desk.state.LastMask = u"##"_qs;
     Extensions();
     EXPECT_FALSE(The("cmbExtAll").isVisible());
     Click("Check2");
@@ -188,7 +198,7 @@ TEST_F(ReplaceLists, ASingleExtensionStandsInForTheList)
     QTest::keyClick(&combo, Qt::Key_Down);
     EXPECT_TRUE(The<QDialog>("frmRandom").isVisible());
     Click("cmdCScr");
-    EXPECT_EQ(options.extension.ExtensionAllValue, u"$Rand$_AAaa##"_qs);
+    EXPECT_EQ(options.extension.ExtensionAllValue, u"$Rand$_##"_qs);
     Extensions();
     EXPECT_TRUE(The<QCheckBox>("Check2").isChecked());
     Click("Check2");

@@ -124,8 +124,10 @@ bool ManagerWindow::MayReplace()
         ShowMessage(kind_.nameIsTaken);
         return false;
     }
-    return QMessageBox::question(this, kind_.messageTitle, kind_.nameIsTaken,
-                                 QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
+    QMessageBox box(QMessageBox::Information, kind_.messageTitle, kind_.nameIsTaken,
+                    QMessageBox::Yes | QMessageBox::No, this);
+    box.setDefaultButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes;
 }
 
 void ManagerWindow::Command1_Click()

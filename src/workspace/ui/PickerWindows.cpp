@@ -156,7 +156,7 @@ void FormatPicker::accept()
 frmRandom::frmRandom(model::AppState& state, model::RandomSource& random, QWidget* owner)
     : PickerWindow(QLatin1String("frmRandom"), tr("Random Strings"), owner),
       state_(state),
-      mask_(state.LastMask.isEmpty() ? actions::ValueControls().mask : state.LastMask)
+      mask_(state.LastMask)
 {
     auto* column = new QVBoxLayout(this);
     column->addWidget(new MaskBlockWidget(QLatin1String("txtRandomMask"), QLatin1String("cmdRandomTest"),

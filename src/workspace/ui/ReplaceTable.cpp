@@ -65,6 +65,16 @@ public:
         return !(leaves && watched == picking_) && QStyledItemDelegate::eventFilter(watched, event);
     }
 
+    // An edit that ends before its picker does takes what the picker would write.
+    void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override
+    {
+        if (editor == picking_) {
+            picking_.clear();
+            pickers_.Close();
+        }
+        QStyledItemDelegate::setModelData(editor, model, index);
+    }
+
 protected:
     // Rows outside the list are dimmed.
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
@@ -108,7 +118,7 @@ private:
     }
 
     // The picker has closed: its text goes into the cell. Not if it made way for the next pick of the combo,
-    // and not if it closed because the edit is over.
+    // and not if the edit is over.
     void FinishPick(int pick)
     {
         if (pick == picks_ && picking_ && view_.indexWidget(cell_) == picking_) {

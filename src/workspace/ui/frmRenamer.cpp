@@ -259,6 +259,9 @@ void frmRenamer::ShowCurrentPanel()
     const auto kind = list.currentIndex >= 0 && row < list.entries.size()
                           ? model::ActionKindOf(list.entries[row].text)
                           : std::nullopt;
+    if (!kind) {
+        return; // an emptied list leaves the panel of the entry chosen last
+    }
     for (const model::ActionKind each : model::AllActionKinds) {
         panels_[static_cast<std::size_t>(each)]->setVisible(kind == each);
     }
