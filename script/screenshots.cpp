@@ -9,7 +9,7 @@
 // QT_SCALE_FACTOR=2 gives them as on a screen of 200 percent.
 #include "documents/ui/frmRenDrop.h"
 #include "documents/ui/frmRenListMan.h"
-#include "fileview/FileList.h"
+#include "fileview/ui/ListViewEditable.h"
 #include "platform/TextFile.h"
 #include "workspace/ui/ReadableStyle.h"
 #include "workspace/ui/frmLog.h"
@@ -20,6 +20,7 @@
 #include <QDir>
 #include <QFile>
 #include <QLocale>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTextStream>
@@ -169,7 +170,56 @@ public:
         Shoot(manager, manager.objectName());
     }
 
+    // The file list: sorted by a tinted column, with its menu open, and with a cell in edit.
+    void ShootFileList()
+    {
+        fileview::FileList rows;
+        fileview::ListViewEditable list(rows, host_, state_);
+        using fileview::ListProperties;
+        list.Set(&ListProperties::Checkboxes, true);
+        list.Set(&ListProperties::FullRowSelect, true);
+        list.Set(&ListProperties::AutoPopupMenu, true);
+        list.Set(&ListProperties::HighlightColumn, true);
+        list.resize(860, 300);
+        for (const QString& name : SampleNames) {
+            list.AddFile(folder_.path() + QLatin1String("/Lisbon/"), name);
+            const int row = rows.Count();
+            rows.SetCell(row, fileview::FileList::Path, SampleFolder);
+            rows.SetCell(row, fileview::FileList::Size, QStringLiteral("%1KB").arg(2'960 - row * 317 % 900));
+            rows.SetCell(row, fileview::FileList::Date,
+                         QStringLiteral("2024/6/%1 10:2%2:07").arg(11 + row).arg(row));
+            rows.SetChecked(row, row % 4 != 0);
+        }
+        const std::array widths{200, 200, 80, 160, 170};
+        auto& table = static_cast<QTableView&>(list.ListView());
+        for (std::size_t column = 0; column < widths.size(); ++column) {
+            table.setColumnWidth(static_cast<int>(column), widths.at(column));
+        }
+        list.SortCustom(fileview::FileList::Size, true, fileview::ldtNumber);
+        list.DoHighlightColumn(fileview::vbLedgerRed, fileview::vbLedgerPureWhite, fileview::FileList::Size,
+                               fileview::sizeNone);
+        list.SetSelectedItem(3);
+        Shoot(list, QStringLiteral("file-list"));
+        const QPoint cell = table.visualRect(rows.index(4, fileview::FileList::Type - 1)).center();
+        list.Set(&ListProperties::AllowItemEdit, true);
+        Click(*table.viewport(), cell, Qt::LeftButton);
+        Shoot(list, QStringLiteral("file-list-edit"));
+        list.Set(&ListProperties::AllowItemEdit, false);
+        Click(*table.viewport(), cell, Qt::RightButton);
+        Shoot(list.mnuOptions(), QStringLiteral("file-list-menu"));
+        list.mnuOptions().close();
+    }
+
 private:
+    static void Click(QWidget& widget, const QPoint& at, Qt::MouseButton button)
+    {
+        for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+            QMouseEvent event(type, at, widget.mapToGlobal(at), button,
+                              type == QEvent::MouseButtonPress ? Qt::MouseButtons(button) : Qt::NoButton, {});
+            QCoreApplication::sendEvent(&widget, &event);
+        }
+    }
+
     void FillOptions()
     {
         actions::RenameOptions& options = workspace_.options;
@@ -275,5 +325,6 @@ int main(int argc, char** argv)
     studio.ShootPickers();
     studio.ShootDrop();
     studio.ShootManager();
+    studio.ShootFileList();
     return 0;
 }

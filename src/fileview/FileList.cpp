@@ -55,6 +55,20 @@ void FileList::AddFile(const QString& folder, const QString& name, platform::Fil
         row.size = info->size;
         row.modified = info->modified;
     }
+    AddRow(std::move(row));
+}
+
+void FileList::AddRowsOf(const FileList& other, const std::function<bool(const model::FileRow&)>& isWanted)
+{
+    for (const model::FileRow& row : other.rows_) {
+        if (isWanted(row)) {
+            AddRow(row);
+        }
+    }
+}
+
+void FileList::AddRow(model::FileRow row)
+{
     RememberIcon(row);
     rows_.push_back(std::move(row));
     if (locks_ == 0 && !isAnnouncementDue_) {

@@ -56,6 +56,9 @@ public:
     // that isn't there gives a row with an empty type.
     void AddFile(const QString& folder, const QString& name, platform::FileSystem& files);
 
+    // Adds the rows of another list for which `isWanted` says so, as they are there, with their checks.
+    void AddRowsOf(const FileList& other, const std::function<bool(const model::FileRow&)>& isWanted);
+
     // Takes out all rows for which `isUnwanted` says so, and tells views once.
     void RemoveIf(const std::function<bool(const model::FileRow&)>& isUnwanted);
 
@@ -146,6 +149,7 @@ Q_SIGNALS:
 
 private:
     QString TextOf(const model::FileRow& row, int column) const;
+    void AddRow(model::FileRow row);
     void RememberIcon(const model::FileRow& row);
     void SortNow();
     void Reorder(const std::vector<int>& order);
