@@ -63,6 +63,7 @@ void FileList::AddRowsOf(const FileList& other, const std::function<bool(const m
     for (const model::FileRow& row : other.rows_) {
         if (isWanted(row)) {
             AddRow(row);
+            rows_.back().checked = false;
         }
     }
 }
@@ -297,25 +298,31 @@ void FileList::SortCustom(int column, bool ascending, int dataType, bool byMagni
 {
     sort_ = {column, ascending, dataType, byMagnitude};
     isSorted_ = true;
-    SortNow();
+    SortAnew();
 }
 
 void FileList::SetSortKey(int key)
 {
     sort_ = {key + 1, sort_.ascending};
-    SortNow();
+    SortAnew();
 }
 
 void FileList::SetSortOrder(SortOrder order)
 {
     sort_.ascending = order == lvwAscending;
-    SortNow();
+    SortAnew();
 }
 
 void FileList::SetSorted(bool sorted)
 {
     isSorted_ = sorted;
+    SortAnew();
+}
+
+void FileList::SortAnew()
+{
     SortNow();
+    Q_EMIT SortChanged();
 }
 
 void FileList::SortNow()

@@ -56,7 +56,7 @@ public:
     // that isn't there gives a row with an empty type.
     void AddFile(const QString& folder, const QString& name, platform::FileSystem& files);
 
-    // Adds the rows of another list for which `isWanted` says so, as they are there, with their checks.
+    // Adds the rows of another list for which `isWanted` says so, as they are there, but unchecked.
     void AddRowsOf(const FileList& other, const std::function<bool(const model::FileRow&)>& isWanted);
 
     // Takes out all rows for which `isUnwanted` says so, and tells views once.
@@ -147,11 +147,15 @@ Q_SIGNALS:
     // A person checked or unchecked the row.
     void ItemChecked(int row);
 
+    // SortKey, Order or Sorted have changed.
+    void SortChanged();
+
 private:
     QString TextOf(const model::FileRow& row, int column) const;
     void AddRow(model::FileRow row);
     void RememberIcon(const model::FileRow& row);
     void SortNow();
+    void SortAnew();
     void Reorder(const std::vector<int>& order);
     void RemoveLast(int count);
     void AnnounceChecks();

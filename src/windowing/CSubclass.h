@@ -92,9 +92,8 @@ public:
     void AddMsgDropFiles(When when = When::After);
 
     // Adds the dropped files that the list doesn't hold yet (texts are compared exactly) and gives their
-    // names. A filter that is empty or "*.*" lets all through; another those whose extension, the text behind
-    // the last
-    // ".", occurs anywhere in it, without regard to case: "mp3" lets "p3" through, too.
+    // names. A filter that is empty or "*.*" lets all through, another those whose extension, the text behind
+    // the last ".", occurs anywhere in it, without regard to case: "mp3" lets "p3" through, too.
     static QStringList OnDropFilesAddToListDistinct(QListWidget& list, const QMimeData& drop,
                                                     const QString& filter);
 

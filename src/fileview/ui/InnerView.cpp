@@ -28,6 +28,16 @@ bool IsOfKeys(const QEvent& event)
     return event.type() == QEvent::KeyPress || event.type() == QEvent::KeyRelease;
 }
 
+// Says in the middle of an empty view that it is empty.
+void PaintEmptyText(QAbstractItemView& view, const QString& text)
+{
+    if (!text.isEmpty() && view.model()->rowCount() == 0) {
+        QPainter painter(view.viewport());
+        painter.setPen(view.palette().color(QPalette::PlaceholderText));
+        painter.drawText(view.viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, text);
+    }
+}
+
 QColor Mix(const QColor& base, const QColor& tint)
 {
     const auto mixed = [](int of, int with) {
@@ -162,6 +172,7 @@ void FileTable::paintEvent(QPaintEvent* event)
                          colours.band);
     }
     QTableView::paintEvent(event);
+    PaintEmptyText(*this, emptyText);
 }
 
 // Home and End lead to the first and the last row; left and right scroll.
@@ -216,6 +227,12 @@ void IconList::Arrange(const ListProperties& properties)
     setGridSize(isLarge ? QSize(width * 18, 32 + 2 * line + RowPadding)
                         : QSize(width * 32, qMax(18, line + RowPadding)));
     setWordWrap(false);
+}
+
+void IconList::paintEvent(QPaintEvent* event)
+{
+    QListView::paintEvent(event);
+    PaintEmptyText(*this, emptyText);
 }
 
 bool IconList::event(QEvent* event)

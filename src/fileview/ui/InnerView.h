@@ -78,6 +78,8 @@ class FileTable final : public QTableView
 public:
     FileTable(const ListProperties& properties, ViewListener& listener, QWidget* parent);
 
+    QString emptyText; // shown while there are no rows
+
     FileHeader& Header() const { return static_cast<FileHeader&>(*horizontalHeader()); }
 
     void keyboardSearch(const QString& search) override;
@@ -101,9 +103,12 @@ class IconList final : public QListView
 public:
     IconList(ViewListener& listener, QWidget* parent);
 
+    QString emptyText; // shown while there are no rows
+
     void Arrange(const ListProperties& properties);
 
 protected:
+    void paintEvent(QPaintEvent* event) override;
     bool event(QEvent* event) override;
     bool viewportEvent(QEvent* event) override;
 

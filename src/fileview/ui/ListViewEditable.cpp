@@ -14,6 +14,7 @@
 #include <QToolTip>
 
 #include <algorithm>
+#include <tuple>
 
 namespace fileview {
 
@@ -74,6 +75,7 @@ ListViewEditable::ListViewEditable(FileList& rows, model::RunHost& host, model::
     MakeMenu();
     ForwardScanner();
     ApplyColumns();
+    TakeSortOfRows();
     Apply();
 }
 
@@ -123,6 +125,7 @@ void ListViewEditable::MakeViews()
     connect(&table_->Header(), &QHeaderView::sectionResized, this, [this] {
         windowing::SendMessage(*ListView().viewport(), Message::Notify, windowing::HeaderItemChanging);
     });
+    connect(&rows_, &FileList::SortChanged, this, &ListViewEditable::TakeSortOfRows);
     connect(&rows_, &FileList::ItemChecked, this, &ListViewEditable::ItemCheck);
     connect(&rows_, &QAbstractItemModel::modelReset, this, [this] { txtEdit_->hide(); });
 
@@ -195,18 +198,35 @@ void ListViewEditable::Apply()
     header.setVisible(!of.HideColumnHeaders);
     header.setSectionsMovable(of.AllowColumnReorder);
     header.SetFlat(of.FlatHeader);
-    if (rows_.SortKey() != of.SortKey) {
-        rows_.SetSortKey(of.SortKey);
+    const auto [key, order, isSorted] = std::tuple(of.SortKey, of.SortOrder, of.Sorted);
+    if (rows_.SortKey() != key) {
+        rows_.SetSortKey(key);
     }
-    if (rows_.Order() != of.SortOrder) {
-        rows_.SetSortOrder(of.SortOrder == lvwDescending ? lvwDescending : lvwAscending);
+    if (rows_.Order() != order) {
+        rows_.SetSortOrder(order == lvwDescending ? lvwDescending : lvwAscending);
     }
-    if (rows_.Sorted() != of.Sorted) {
-        rows_.SetSorted(of.Sorted);
+    if (rows_.Sorted() != isSorted) {
+        rows_.SetSorted(isSorted);
     }
-    header.setSortIndicator(of.Sorted ? of.SortKey : -1,
-                            rows_.Order() == lvwAscending ? Qt::AscendingOrder : Qt::DescendingOrder);
     ListenTo(ListView());
+}
+
+// The rows may be sorted by others, too.
+void ListViewEditable::TakeSortOfRows()
+{
+    properties_.SortKey = rows_.SortKey();
+    properties_.SortOrder = rows_.Order();
+    properties_.Sorted = rows_.Sorted();
+    table_->Header().setSortIndicator(rows_.Sorted() ? rows_.SortKey() : -1, rows_.Order() == lvwAscending
+                                                                                 ? Qt::AscendingOrder
+                                                                                 : Qt::DescendingOrder);
+}
+
+void ListViewEditable::SetEmptyText(const QString& text)
+{
+    table_->emptyText = text;
+    iconList_->emptyText = text;
+    ListView().viewport()->update();
 }
 
 void ListViewEditable::ListenTo(QAbstractItemView& view)
@@ -344,11 +364,7 @@ void ListViewEditable::SortCustom(int Column, bool Ascending, int DataType)
 {
     const QCursor pointer = ListView().viewport()->cursor();
     ListView().viewport()->setCursor(CursorOf(ccHourglass));
-    properties_.SortKey = Column - 1;
-    properties_.SortOrder = Ascending ? lvwAscending : lvwDescending;
-    properties_.Sorted = true;
     rows_.SortCustom(Column, Ascending, DataType, state_.SortNamesByMagnitude);
-    table_->Header().setSortIndicator(Column - 1, Ascending ? Qt::AscendingOrder : Qt::DescendingOrder);
     ListView().viewport()->setCursor(pointer);
 }
 

@@ -59,7 +59,10 @@ public:
     int ImageListCount() const { return rows_.IconCount(); }
     int FileItemCount() const { return rows_.Count(); }
 
-    // Scanning, see Scanner.h. A scan is shown by the host and yields to it.
+    // Scanning, see Scanner.h, with the settings among the properties. A scan is shown by the host and yields
+    // to it.
+    Scanner& FileScanner() { return scanner_; }
+    ScanSettings& Scanned() { return properties_; }
     void Scan() { scanner_.Scan(); }
     void StopScan() { scanner_.StopScan(); }
     void ResetStopFlag() { scanner_.ResetStopFlag(); }
@@ -106,6 +109,9 @@ public:
 
     // Lets a person choose a folder. Gives it with a separator at its end; empty if it was cancelled.
     QString SelectDirectory(const QString& Prompt, QWidget* Owner = nullptr);
+
+    // What the list says while it is empty.
+    void SetEmptyText(const QString& text);
 
     // The context menu; its entries have their own object names.
     QMenu& mnuOptions() { return *menu_; }
@@ -164,6 +170,7 @@ private:
     void MakeMenu();
     void Apply();
     void ApplyColumns();
+    void TakeSortOfRows();
     void ListenTo(QAbstractItemView& view);
 
     Place HitTest(const QPoint& pixels) const;
