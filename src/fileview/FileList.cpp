@@ -72,6 +72,7 @@ void FileList::AddRow(model::FileRow row)
 {
     RememberIcon(row);
     rows_.push_back(std::move(row));
+    isOrderDue_ = isSorted_;
     if (locks_ == 0 && !isAnnouncementDue_) {
         isAnnouncementDue_ = true;
         QMetaObject::invokeMethod(this, &FileList::AnnounceRows, Qt::QueuedConnection);
@@ -103,6 +104,7 @@ void FileList::RemoveIf(const std::function<bool(const model::FileRow&)>& isUnwa
     order.insert(order.end(), unwanted.begin(), unwanted.end());
     Reorder(order);
     RemoveLast(static_cast<int>(unwanted.size()));
+    OrderNewRows();
 }
 
 void FileList::RemoveDuplicates()
@@ -330,12 +332,14 @@ void FileList::SortNow()
     if (!isSorted_) {
         return;
     }
-    const bool ordersNames =
-        sort_.dataType != ldtNumber && sort_.dataType != ldtDateTime && sort_.byMagnitude;
+    isOrderDue_ = false;
+    // The keys stand for names: another column of texts is sorted as it is.
+    const bool ordersNames = sort_.column == Name && sort_.dataType != ldtNumber &&
+                             sort_.dataType != ldtDateTime && sort_.byMagnitude;
     std::vector<QString> texts;
     texts.reserve(rows_.size());
     for (const model::FileRow& row : rows_) {
-        texts.push_back(TextOf(row, ordersNames ? Name : sort_.column));
+        texts.push_back(TextOf(row, sort_.column));
     }
     const auto keys = ordersNames ? MagnitudeKeysOf(texts) : KeysOf(texts, sort_.dataType);
     Reorder(OrderOf(keys, sort_.ascending));
@@ -385,20 +389,24 @@ void FileList::Unlock()
 void FileList::AnnounceRows()
 {
     isAnnouncementDue_ = false;
-    if (InsertNewRows() && locks_ == 0) {
+    InsertNewRows();
+    OrderNewRows();
+}
+
+void FileList::OrderNewRows()
+{
+    if (isOrderDue_ && locks_ == 0) {
         SortNow();
     }
 }
 
-bool FileList::InsertNewRows()
+void FileList::InsertNewRows()
 {
-    if (announced_ == Count()) {
-        return false;
+    if (announced_ < Count()) {
+        beginInsertRows({}, announced_, Count() - 1);
+        announced_ = Count();
+        endInsertRows();
     }
-    beginInsertRows({}, announced_, Count() - 1);
-    announced_ = Count();
-    endInsertRows();
-    return true;
 }
 
 int FileList::rowCount(const QModelIndex& parent) const

@@ -113,11 +113,11 @@ public:
     bool SetCell(int row, int col, const QString& text);
 
     // Sorts by a column, counted from 1, as its data type asks, and stays sorted so. `byMagnitude` tells
-    // whether names, and every other column of texts, are ordered by the number at the names' ends.
+    // whether names are ordered by the number at their ends.
     void SortCustom(int column, bool ascending, int dataType, bool byMagnitude = false);
 
-    // Sort column, counted from 0, and direction. While Sorted is set, a change sorts the rows by their texts
-    // as they stand.
+    // Sort column, counted from 0, and direction. While Sorted is set, another column sorts the rows by its
+    // texts as they stand, and another direction turns the order round.
     int SortKey() const { return sort_.column - 1; }
     void SetSortKey(int key);
     SortOrder Order() const { return sort_.ascending ? lvwAscending : lvwDescending; }
@@ -159,7 +159,8 @@ private:
     void Reorder(const std::vector<int>& order);
     void RemoveLast(int count);
     void AnnounceChecks();
-    bool InsertNewRows(); // false if views know of all
+    void InsertNewRows();
+    void OrderNewRows();
 
     std::vector<model::FileRow> rows_;
     std::vector<ColumnHeader> columns_;
@@ -171,6 +172,7 @@ private:
     int locks_ = 0;
     bool isSorted_ = false;
     bool isAnnouncementDue_ = false;
+    bool isOrderDue_ = false; // rows came in since the list was sorted
 };
 
 } // namespace fileview

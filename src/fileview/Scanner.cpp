@@ -22,6 +22,13 @@ struct Scanner::Listing
     }
 };
 
+// What a pass and all that it goes into work by, whatever becomes of the settings meanwhile.
+struct Scanner::Pass
+{
+    Wildcard wanted;
+    bool isRecursive = false;
+};
+
 Scanner::Scanner(FileList& list, ScanSettings& settings, model::RunHost& host, const model::AppState& state)
     : list_(list), settings_(settings), host_(host), state_(state)
 {}
@@ -44,8 +51,9 @@ void Scanner::Scan()
                       settings_.IncludeFolder);
 }
 
-int Scanner::ScanPass(QString folder, bool clearsList)
+int Scanner::ScanPass(const QString& folder, bool clearsList)
 {
+    const Pass pass{Wildcard(settings_.FileSpec), settings_.Recursive};
     if (clearsList) {
         found_ = 0;
         sinceRepaint_ = 0;
@@ -53,38 +61,46 @@ int Scanner::ScanPass(QString folder, bool clearsList)
         isStopped_ = false;
         host_.Yield();
     }
+    RunPass(pass, folder);
+    return found_;
+}
+
+void Scanner::RunPass(const Pass& pass, QString folder)
+{
     Q_EMIT SearchDirChange(folder);
     if (!folder.endsWith(platform::PathSeparator)) {
         folder += platform::PathSeparator;
     }
-    const Listing listing = ReadFolder(folder);
+    Listing listing = ReadFolder(folder);
     if (listing.isReadable) {
         progressMaximum_ = listing.FileCount();
         host_.SetProgressMaximum(progressMaximum_);
     }
     SetProgress(0);
     host_.ShowStatus(QStringLiteral("Loading Files..."));
-    if (settings_.Recursive) {
-        WalkSubfolders(folder, listing);
+    if (pass.isRecursive) {
+        const bool hasWalked = WalkSubfolders(pass, folder, listing);
         SetProgress(0);
+        if (hasWalked && !isStopped_) {
+            listing = ReadFolder(folder); // which may have taken long
+        }
     }
     host_.Yield();
     if (!isStopped_) {
-        AddMatches(folder, listing);
+        AddMatches(pass, folder, listing);
     }
     if (!state_.ClosingDown) {
         SetProgress(0);
         host_.ShowStatus(QStringLiteral("Ready"));
     }
-    return found_;
 }
 
 Scanner::Listing Scanner::ReadFolder(const QString& folder)
 {
     constexpr std::size_t entriesBetweenYields = 1'000;
     platform::FolderReader reader(folder);
-    Listing listing{reader.IsOpen(), {}};
-    for (platform::FolderEntry entry; !isStopped_ && reader.Next(entry);) {
+    Listing listing{reader.OpenStatus().IsOk(), {}};
+    for (platform::FolderEntry entry; reader.Next(entry);) {
         listing.entries.push_back(std::move(entry));
         if (listing.entries.size() % entriesBetweenYields == 0) {
             host_.Yield();
@@ -93,30 +109,33 @@ Scanner::Listing Scanner::ReadFolder(const QString& folder)
     return listing;
 }
 
-void Scanner::WalkSubfolders(const QString& folder, const Listing& listing)
+// False if there was none to walk into.
+bool Scanner::WalkSubfolders(const Pass& pass, const QString& folder, const Listing& listing)
 {
+    bool hasWalked = false;
     for (const platform::FolderEntry& entry : listing.entries) {
         host_.Yield();
         if (isStopped_) {
-            return;
+            break;
         }
         if (entry.isFolder && !entry.isLink) {
-            ScanPass(folder + entry.name, false);
+            RunPass(pass, folder + entry.name);
+            hasWalked = true;
         }
         StepProgress();
     }
+    return hasWalked;
 }
 
-void Scanner::AddMatches(const QString& folder, const Listing& listing)
+void Scanner::AddMatches(const Pass& pass, const QString& folder, const Listing& listing)
 {
-    const Wildcard wanted(settings_.FileSpec);
     platform::FileSystem files; // of this folder only: others may move it meanwhile
     for (const platform::FolderEntry& entry : listing.entries) {
         host_.Yield();
         if (isStopped_) {
             return;
         }
-        if (wanted.Matches(entry.name)) {
+        if (pass.wanted.Matches(entry.name)) {
             ++found_;
             list_.AddFile(folder, entry.name, files);
             RowAdded();
@@ -149,9 +168,11 @@ void Scanner::StepProgress()
 platform::Status GetFileCount(const QString& Path, int& count)
 {
     platform::FolderReader reader(Path);
-    if (!reader.IsOpen()) {
+    if (const platform::Status opened = reader.OpenStatus(); !opened.IsOk()) {
+        const auto info = platform::FileSystem().GetInfo(Path, {});
         return platform::Status::Failure(
-            QStringLiteral("Error form Functions.GetFileCount Invalid path  given"));
+            QStringLiteral("Error form Functions.GetFileCount ") +
+            (info && info->isFolder ? opened.Description() : QStringLiteral("Invalid path  given")));
     }
     int files = 0;
     for (platform::FolderEntry entry; reader.Next(entry);) {

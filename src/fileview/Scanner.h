@@ -40,9 +40,10 @@ public:
     // doesn't exist leaves the list empty.
     void Scan();
 
-    // One pass over a folder, without clearing the stop flag unless `clearsList` is set: a pass after a
-    // stopped scan adds nothing. Returns what matched since the list was last cleared by a pass.
-    int ScanPass(QString folder, bool clearsList);
+    // One pass over a folder, by the settings as they are now, without clearing the stop flag unless
+    // `clearsList` is set: a pass after a stopped scan adds nothing. Returns what matched since the list was
+    // last cleared by a pass.
+    int ScanPass(const QString& folder, bool clearsList);
 
     void StopScan() { isStopped_ = true; }
     void ResetStopFlag() { isStopped_ = false; }
@@ -61,9 +62,11 @@ Q_SIGNALS:
 
 private:
     struct Listing;
+    struct Pass;
+    void RunPass(const Pass& pass, QString folder);
     Listing ReadFolder(const QString& folder);
-    void WalkSubfolders(const QString& folder, const Listing& listing);
-    void AddMatches(const QString& folder, const Listing& listing);
+    bool WalkSubfolders(const Pass& pass, const QString& folder, const Listing& listing);
+    void AddMatches(const Pass& pass, const QString& folder, const Listing& listing);
     void RowAdded();
     void SetProgress(int value);
     void StepProgress();

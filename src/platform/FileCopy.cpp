@@ -232,12 +232,28 @@ int RenameWithoutReplacing(int fromFolder, const char* from, int toFolder, const
     return isFolder ? EOPNOTSUPP : LinkAndUnlink(fromFolder, from, toFolder, to);
 }
 
-Status CopyLink(const QByteArray& from, const QByteArray& to)
+Status CopyLink(const QByteArray& from, const QByteArray& to, TemporaryFile::Existing existing)
 {
     std::array<char, PATH_MAX> pointsAt{};
-    const bool isCopied = ::readlink(from.constData(), pointsAt.data(), pointsAt.size() - 1) >= 0 &&
-                          ::symlink(pointsAt.data(), to.constData()) == 0;
-    return isCopied ? Status() : FailureOf(errno);
+    if (::readlink(from.constData(), pointsAt.data(), pointsAt.size() - 1) < 0) {
+        return FailureOf(errno);
+    }
+    if (::symlink(pointsAt.data(), to.constData()) == 0) {
+        return {};
+    }
+    if (errno != EEXIST || existing == TemporaryFile::Existing::Refuse) {
+        return FailureOf(errno);
+    }
+    const QByteArray made = FolderOf(to) + ".quillmark-" + QByteArray::number(::getpid()) + "-link.tmp";
+    if (::symlink(pointsAt.data(), made.constData()) != 0) {
+        return FailureOf(errno);
+    }
+    if (::rename(made.constData(), to.constData()) != 0) {
+        const int error = errno;
+        ::unlink(made.constData());
+        return FailureOf(error);
+    }
+    return {};
 }
 
 Status MoveAcrossDevices(const QByteArray& from, const QByteArray& to)
@@ -255,7 +271,9 @@ Status MoveAcrossDevices(const QByteArray& from, const QByteArray& to)
     if (::lstat(to.constData(), &present) == 0) {
         return FailureOf(EEXIST); // told before a long copy
     }
-    if (Status moved = S_ISLNK(info.st_mode) ? CopyLink(from, to) : CopyAcross(from, to); !moved.IsOk()) {
+    if (Status moved = S_ISLNK(info.st_mode) ? CopyLink(from, to, TemporaryFile::Existing::Refuse)
+                                             : CopyAcross(from, to);
+        !moved.IsOk()) {
         return moved;
     }
     SyncFolderOf(to);

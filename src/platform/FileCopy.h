@@ -44,8 +44,9 @@ private:
 // another file system, EOPNOTSUPP where no safe way exists.
 int RenameWithoutReplacing(int fromFolder, const char* from, int toFolder, const char* to, bool isFolder);
 
-// Makes the symbolic link `to` with the text of the link `from`. Fails where `to` is there.
-Status CopyLink(const QByteArray& from, const QByteArray& to);
+// Makes the symbolic link `to` with the text of the link `from`, in the place of a file or a link that is
+// there or, if not allowed to replace, failing with "File already exists".
+Status CopyLink(const QByteArray& from, const QByteArray& to, TemporaryFile::Existing existing);
 
 // Moves a file to another file system: copies it with its times, mode and extended attributes to a temporary
 // file beside the target, syncs, puts it in place without replacing, then removes the source. A failure

@@ -32,23 +32,26 @@ QByteArray RealPath(const QByteArray& path)
     return ::realpath(path.constData(), real.data()) ? QByteArray(real.data()) : QByteArray();
 }
 
-// Copies what is in `from` into the folder `to`, which is there. Stops at the first failure.
+// Copies what is in `from` into the folder `to`, which is there. Stops at the first failure. What is neither
+// file, folder nor link (a pipe, say) has nothing to copy and is passed over.
 Status CopyEntries(const QString& from, const QString& to)
 {
     FolderReader reader(from);
-    if (!reader.IsOpen()) {
-        return FailureOf(errno);
-    }
-    Status copied;
+    Status copied = reader.OpenStatus();
     for (FolderEntry entry; copied.IsOk() && reader.Next(entry);) {
         const QString source = from + PathSeparator + entry.name;
         const QString target = to + PathSeparator + entry.name;
-        if (entry.isLink) {
-            copied = CopyLink(ToBytes(source), ToBytes(target));
-        } else if (!entry.isFolder) {
+        struct stat info
+        {};
+        if (::lstat(ToBytes(source).constData(), &info) != 0) {
+            copied = FailureOf(errno);
+        } else if (S_ISLNK(info.st_mode)) {
+            copied = CopyLink(ToBytes(source), ToBytes(target), TemporaryFile::Existing::Replace);
+        } else if (S_ISREG(info.st_mode)) {
             copied = CopyFile(source, target);
-        } else if (copied = CreateFolder(target); copied.IsOk()) {
-            copied = CopyEntries(source, target);
+        } else if (S_ISDIR(info.st_mode)) {
+            copied = CreateFolder(target);
+            copied = copied.IsOk() ? CopyEntries(source, target) : copied;
         }
     }
     return copied;
@@ -61,7 +64,9 @@ class TemporaryFolder
 public:
     explicit TemporaryFolder(const QByteArray& target) : path_(target)
     {
-        path_.insert(path_.lastIndexOf('/') + 1, ".quillmark-" + QByteArray::number(::getpid()) + '-');
+        // Not made of the target's name, which may be as long as a name can be.
+        path_.truncate(path_.lastIndexOf('/') + 1);
+        path_ += ".quillmark-" + QByteArray::number(::getpid()) + "-folder.tmp";
         isMade_ = ::mkdir(path_.constData(), 0700) == 0;
     }
     ~TemporaryFolder()

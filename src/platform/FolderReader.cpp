@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/FolderReader.h"
 
+#include "platform/Descriptor.h"
 #include "platform/NameBytes.h"
 
+#include <cerrno>
 #include <fcntl.h>
 #include <string_view>
 #include <sys/stat.h>
@@ -11,8 +13,10 @@ namespace platform {
 
 FolderReader::FolderReader(const QString& folder)
 {
-    if (const auto path = ToPath(folder)) {
-        folder_.reset(::opendir(path->constData()));
+    const auto path = ToPath(folder);
+    folder_.reset(path ? ::opendir(path->constData()) : nullptr);
+    if (!folder_) {
+        status_ = FailureOf(path ? errno : ENOENT);
     }
 }
 

@@ -29,7 +29,8 @@ public:
     // no entries.
     explicit FolderReader(const QString& folder);
 
-    bool IsOpen() const { return folder_ != nullptr; }
+    // Whether the folder could be opened, and if not, why.
+    const Status& OpenStatus() const { return status_; }
 
     // Gives the next entry; false after the last one. A read that fails ends the folder.
     bool Next(FolderEntry& entry);
@@ -40,6 +41,7 @@ private:
         void operator()(DIR* folder) const { ::closedir(folder); }
     };
     std::unique_ptr<DIR, Closer> folder_;
+    Status status_;
 };
 
 } // namespace platform

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "actions/OneAction.h"
+#include "support/Words.h"
 
 namespace {
 
@@ -18,8 +19,6 @@ TEST_F(AdditionActions, PrefixAndSuffixKeepTheExtension)
         {"an empty base", u"X"_qs, u".ini"_qs, u"X.ini"_qs, u"X.ini"_qs},
         {"an empty value", QString(), u"a.txt"_qs, u"a.txt"_qs, u"a.txt"_qs},
         {"a folder, which has no extension", u"X"_qs, u"my.dir/"_qs, u"Xmy.dir"_qs, u"my.dirX"_qs},
-        {"a case token, not honoured here", u"$Upper_Case$"_qs, u"a"_qs, u"$Upper_Case$a"_qs,
-         u"a$Upper_Case$"_qs},
         {"a file's own data", u"$foldername$"_qs, u"a.b"_qs, u"holidaya.b"_qs, u"aholiday.b"_qs},
         {"a date that can't be read", u"$mod_yyyy$"_qs, u"a.b"_qs, u"a.b"_qs, u"a.b"_qs},
     };
@@ -37,52 +36,36 @@ TEST_F(AdditionActions, PrefixAndSuffixKeepTheExtension)
 
 TEST_F(AdditionActions, InsertFindsItsPlaceInFiveModes)
 {
-    const struct
-    {
-        int mode;
-        QString position, sought, second;
-        bool matchCase;
-        QString before, after;
-    } rows[] = {
-        {0, u"1"_qs, {}, {}, false, u"abc.txt"_qs, u"Xabc.txt"_qs},
-        {0, u"3"_qs, {}, {}, false, u"abc.txt"_qs, u"abXc.txt"_qs},
-        {0, u"100"_qs, {}, {}, false, u"abc.txt"_qs, u"abcX.txt"_qs},
-        {0, u"2"_qs, {}, {}, false, u"\U0001F600\U0001F600b"_qs, u"\U0001F600X\U0001F600b"_qs},
-        {0, u"0"_qs, {}, {}, false, u"abc.txt"_qs, u"abc.txt"_qs},
-        {0, u"-1"_qs, {}, {}, false, u"abc.txt"_qs, u"abc.txt"_qs},
-        {1, u"1"_qs, {}, {}, false, u"abc.txt"_qs, u"abcX.txt"_qs},
-        {1, u"2"_qs, {}, {}, false, u"abc.txt"_qs, u"abXc.txt"_qs},
-        {1, u"100"_qs, {}, {}, false, u"abc.txt"_qs, u"Xabc.txt"_qs},
-        {1, u"0"_qs, {}, {}, false, u"abc.txt"_qs, u"abc.txt"_qs},
-        {2, u"1"_qs, u"B"_qs, {}, false, u"abcb"_qs, u"aXbcb"_qs},
-        {2, u"1"_qs, u"B"_qs, {}, true, u"abc"_qs, u"abc"_qs},
-        {2, u"1"_qs, u"\u00c9"_qs, {}, false, u"\U0001F600a\u00e9"_qs, u"\U0001F600aX\u00e9"_qs},
-        {2, u"1"_qs, u"a"_qs, {}, false, u"abca"_qs, u"abca"_qs}, // opens the name: no place before it
-        {2, u"1"_qs, {}, {}, false, u"abc"_qs, u"abc"_qs},
-        {3, u"1"_qs, u"c"_qs, {}, false, u"abc.c"_qs, u"abcX.c"_qs},
-        {3, u"1"_qs, u"AB"_qs, {}, false, u"abc"_qs, u"abXc"_qs},
-        {3, u"1"_qs, u"AB"_qs, {}, true, u"abc"_qs, u"abc"_qs},
-        {3, u"1"_qs, {}, {}, false, u"abc"_qs, u"abc"_qs},
-        {4, u"1"_qs, u"a"_qs, u"b"_qs, false, u"abc.txt"_qs, u"aXbc.txt"_qs},
-        {4, u"1"_qs, u"A"_qs, u"b"_qs, true, u"abc"_qs, u"abc"_qs},
-        {4, u"1"_qs, u"a"_qs, u"c"_qs, false, u"abc"_qs, u"abc"_qs},      // not side by side
-        {4, u"1"_qs, u"a"_qs, u"XY"_qs, false, u"aXYb"_qs, u"aXYb"_qs},   // "X" is lost and added
-        {4, u"1"_qs, u"a"_qs, u"bcd"_qs, false, u"abcde"_qs, u"aXde"_qs}, // the tail's first two are lost
-        {4, u"1"_qs, u"b"_qs, {}, false, u"abc"_qs, u"abXbc"_qs},         // the first string's end twice
-        {4, u"x"_qs, u"a"_qs, u"b"_qs, false, u"abc"_qs, u"abc"_qs},      // the hidden position must convert
-    };
-    for (const auto& row : rows) {
-        auto& insert = options.insert;
-        insert.cmbInsert = actions::InsertOptions::Modes().at(row.mode);
-        insert.Text38 = row.position;
-        insert.Text43 = insert.Text44 = row.sought;
-        insert.Text45 = row.second;
-        insert.Check1 = row.mode == 4 && row.matchCase;
-        insert.Check2 = row.mode != 4 && row.matchCase;
-        insert.cmbInsertS.combo = u"X"_qs;
-        EXPECT_EQ(NewName(ActionKind::Insert, row.before), row.after)
-            << row.mode << " with " << row.sought.toStdString() << " in " << row.before.toStdString();
+    // Per mode: position or string sought, second string, match case, name, new name.
+    const QString tables[] = {
+        u"1 ~ n abc.txt Xabc.txt   3 ~ n abc.txt abXc.txt   100 ~ n abc.txt abcX.txt   0 ~ n abc.txt abc.txt "
+        u"-1 ~ n abc.txt abc.txt   2 ~ n \U0001F600\U0001F600b \U0001F600X\U0001F600b"_qs,
+        u"1 ~ n abc.txt abcX.txt   2 ~ n abc.txt abXc.txt   100 ~ n abc.txt Xabc.txt   0 ~ n abc.txt abc.txt "
+        u"3 ~ n \U0001F600\U0001F600b \U0001F600X\U0001F600b"_qs,
+        // What opens the name has no place before it.
+        u"B ~ n abcb aXbcb   B ~ y abc abc   \u00c9 ~ n \U0001F600a\u00e9 \U0001F600aX\u00e9 "
+        u"a ~ n abca abca   ~ ~ n abc abc"_qs,
+        u"c ~ n abc.c abcX.c   AB ~ n abc abXc   AB ~ y abc abc   ~ ~ n abc abc"_qs,
+        // The two must stand side by side. A second string of n characters costs the tail its first n - 1; an
+        // empty one doubles the first string's end.
+        u"A b y abc abc   a c n abc abc   a XY n aXYb aXYb   a bcd n abcde aXde   b ~ n abc abXbc "
+        u"a b n abc.txt aXbc.txt"_qs};
+    auto& insert = options.insert;
+    insert.cmbInsertS.combo = u"X"_qs;
+    for (int mode = 0; mode < 5; ++mode) {
+        for (const QStringList& row : testing_support::Rows(5, tables[mode])) {
+            insert.cmbInsert = actions::InsertOptions::Modes().at(mode);
+            insert.Text38 = mode < 2 ? row[0] : u"1"_qs;
+            insert.Text43 = insert.Text44 = row[0];
+            insert.Text45 = row[1];
+            insert.Check1 = mode == 4 && row[2] == u"y";
+            insert.Check2 = mode != 4 && row[2] == u"y";
+            EXPECT_EQ(NewName(ActionKind::Insert, row[3]), row[4]) << mode << row.join(u' ').toStdString();
+        }
     }
+    insert.Text38 = u"x"_qs;
+    EXPECT_EQ(NewName(ActionKind::Insert, u"abc.txt"_qs), u"abc.txt"_qs)
+        << "the hidden position must convert";
 }
 
 TEST_F(AdditionActions, InsertsCounterStepsAlsoWhereNoPlaceIsFound)

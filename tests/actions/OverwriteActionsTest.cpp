@@ -1,18 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "actions/OneAction.h"
-
-#include <algorithm>
+#include "support/Words.h"
 
 namespace {
 
 constexpr std::array Kinds{model::ActionKind::ReplaceFirst, model::ActionKind::ReplaceMid,
                            model::ActionKind::ReplaceLast, model::ActionKind::ReplaceAll};
 
-// A table's words, which blanks part; "~" stands for an empty text.
-QStringList Words(const QString& table)
-{
-    return table.split(u' ', Qt::SkipEmptyParts).replaceInStrings(u"~"_qs, QString());
-}
+using testing_support::Rows;
 
 class OverwriteActions : public actions_tests::OneAction
 {
@@ -44,10 +39,8 @@ TEST_F(OverwriteActions, LayAValueOverAStretchOfTheBase)
         u"~ ~ $Counter$ a.b.txt 001.txt   ~ ~ x my.dir/ x   ~ ~ x plain x   ~ ~ x a. x.   ~ ~ ~ abc.txt .txt "
         u"~ ~ ~ plain plain   ~ ~ $Invert_Case$ aBc.TxT AbC.TxT   ~ ~ $mod_yyyy$ abc.txt abc.txt"_qs};
     for (std::size_t action = 0; action < Kinds.size(); ++action) {
-        const QStringList words = Words(tables[action]);
-        for (qsizetype at = 0; at < words.size(); at += 5) {
-            EXPECT_EQ(NewNameWith(Kinds[action], words.mid(at, 3), words[at + 3]), words[at + 4])
-                << words.mid(at, 5).join(u' ').toStdString();
+        for (const QStringList& row : Rows(5, tables[action])) {
+            EXPECT_EQ(NewNameWith(Kinds[action], row, row[3]), row[4]) << row.join(u' ').toStdString();
         }
     }
 }
@@ -62,33 +55,10 @@ TEST_F(OverwriteActions, WhereTheNameStaysTheCounterStepsUnlessABoxFails)
         u"3 a 1 a.txt   x 1 1 a.txt"_qs,
         u"0 ~ 2 a.txt   -2 ~ 2 a.txt   x ~ 1 a.txt   40000 ~ 1 a.txt"_qs, u"~ ~ 2 .ini"_qs};
     for (std::size_t action = 0; action < Kinds.size(); ++action) {
-        const QStringList words = Words(tables[action]);
-        for (qsizetype at = 0; at < words.size(); at += 4) {
-            const QString row = words.mid(at, 4).join(u' '), name = words[at + 3];
-            EXPECT_EQ(NewNameWith(Kinds[action], {words[at], words[at + 1], u"$Counter$"_qs}, name), name)
-                << row.toStdString();
-            EXPECT_EQ(Number(Kinds[action]), words[at + 2].toInt()) << row.toStdString();
-        }
-    }
-}
-
-TEST_F(OverwriteActions, AndAllOthersNeverCutACharacter)
-{
-    const QString name = u"e\u0301\u65e5\U0001F600\xDC80\U0001F601.\U0001F602"_qs;
-    const actions::ReplaceRow row{u"n"_qs, u"\u65e5"_qs, u"\U0001F603"_qs};
-    options.replace.ReplaceList = options.extension.ExtReplaceList = {row};
-    options.length.cmbLength = u"3"_qs;
-    options.clean.Check12 = true;
-    options.clean.Text48 = u"\U0001F600"_qs;
-    options.compose.lstCompose = QStringList{u"\U0001F600"_qs};
-    for (const model::ActionKind kind : model::AllActionKinds) {
-        for (const QString& position : {u"2"_qs, u"3"_qs, u"4"_qs}) {
-            options.insert.Text38 = position;
-            const QString result = NewNameWith(kind, {position, position, u"\U0001F604"_qs}, name);
-            const std::u32string characters = result.toStdU32String();
-            // The only half that may be left is the one that stands for a byte.
-            EXPECT_EQ(std::ranges::count(characters, U'\uFFFD'), result.count(QChar(0xDC80)))
-                << model::NameOf(kind).toStdString();
+        for (const QStringList& row : Rows(4, tables[action])) {
+            SCOPED_TRACE(row.join(u' ').toStdString());
+            EXPECT_EQ(NewNameWith(Kinds[action], {row[0], row[1], u"$Counter$"_qs}, row[3]), row[3]);
+            EXPECT_EQ(Number(Kinds[action]), row[2].toInt());
         }
     }
 }

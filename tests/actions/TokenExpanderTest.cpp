@@ -1,49 +1,41 @@
 // SPDX-License-Identifier: MIT
 #include "actions/TokenExpander.h"
 
+#include "actions/OneAction.h"
 #include "model/ActionError.h"
-#include "support/FixedPorts.h"
-#include "support/Printers.h"
+#include "support/Words.h"
 
 #include <QLocale>
-
-#include <gtest/gtest.h>
 
 namespace {
 
 using namespace actions;
 using model::ActionKind;
+using testing_support::Rows;
 
 const QDateTime Modified(QDate(2009, 5, 4), QTime(7, 8, 9)); // a Monday; the clock stands on a Saturday
 
 // One file, and what a value makes of it.
-class Tokens : public testing::Test
+class Tokens : public actions_tests::OneAction
 {
 protected:
-    Tokens() { states.Reset({}); }
+    Tokens()
+    {
+        states.Reset({});
+        random.sequence = {0};
+    }
 
     QString Value(const QString& text, ActionKind kind = ActionKind::ReplaceAll, const QString& previous = {})
     {
         TokenExpander expander(text, kind, {counter, letters, u"x#"_qs},
                                {states, clock, random, host, lengths});
-        return expander.Expand(row, u"a\u00c9"_qs, previous).value_or(u"(leaves the name)"_qs);
+        return expander.Expand(file, u"a\u00c9"_qs, previous).value_or(u"(leaves the name)"_qs);
     }
 
-    model::NameContext row{{}, Modified.toSecsSinceEpoch(), 1536, u"holiday"_qs, {}, {}};
+    model::NameContext file{{}, Modified.toSecsSinceEpoch(), 1536, u"holiday"_qs, {}, {}};
     CounterBlock counter;
     AlphaCounterBlock letters;
-    CounterStates states;
-    testing_support::FixedClock clock;
-    testing_support::FixedRandom random;
-    model::SilentHost host;
-    LengthMeasures lengths;
 };
-
-// A table's words, which blanks part; "~" stands for a blank.
-QStringList Words(const QString& table)
-{
-    return table.split(u' ', Qt::SkipEmptyParts).replaceInStrings(u"~"_qs, u" "_qs);
-}
 
 // Day `number` of the system's week.
 QString DayName(int number)
@@ -55,37 +47,38 @@ QString DayName(int number)
 TEST_F(Tokens, DatesAndTimes)
 {
     // Words, and what they write of the clock's moment and of the file's.
-    QStringList words =
-        Words(u"hour 23 7   min 22 8   sec 59 9   yyyy 2026 2009   yy 26 09   mm 11 5   dd 14 4 "
-              u"weekday 7 2   hhmmss 232259 070809   hh_mm_ss 23_22_59 07_08_09 "
-              u"date 14.11.2026 04.05.2009   mmddyy 111426 050409   ddmmyy 141126 040509 "
-              u"mmddyyyy 11142026 05042009   ddmmyyyy 14112026 04052009   yyyymmdd 20261114 20090504 "
-              u"mm_dd_yy 11_14_26 05_04_09   dd_mm_yy 14_11_26 04_05_09   yy_mm_dd 26_11_14 09_05_04 "
-              u"mm_dd_yyyy 11_14_2026 05_04_2009   dd_mm_yyyy 14_11_2026 04_05_2009 "
-              u"yyyy_mm_dd 2026_11_14 2009_05_04   yymmdd 261114 (before)"_qs);
+    auto rows =
+        Rows(3, u"hour 23 7   min 22 8   sec 59 9   yyyy 2026 2009   yy 26 09   mm 11 5   dd 14 4 "
+                u"weekday 7 2   hhmmss 232259 070809   hh_mm_ss 23_22_59 07_08_09 "
+                u"date 14.11.2026 04.05.2009   mmddyy 111426 050409   ddmmyy 141126 040509 "
+                u"mmddyyyy 11142026 05042009   ddmmyyyy 14112026 04052009   yyyymmdd 20261114 20090504 "
+                u"mm_dd_yy 11_14_26 05_04_09   dd_mm_yy 14_11_26 04_05_09   yy_mm_dd 26_11_14 09_05_04 "
+                u"mm_dd_yyyy 11_14_2026 05_04_2009   dd_mm_yyyy 14_11_2026 04_05_2009 "
+                u"yyyy_mm_dd 2026_11_14 2009_05_04   yymmdd 261114 (before)"_qs);
     const QLocale system = QLocale::system();
-    words += {u"month"_qs, system.standaloneMonthName(11), system.standaloneMonthName(5)};
-    words += {u"weekday_name"_qs, DayName(7), DayName(2)};
-    words += {u"date_long"_qs, platform::FormatMoment(clock.now, u"long date"_qs),
-              platform::FormatMoment(Modified, u"long date"_qs)};
-    words += {u"time_12hrs"_qs, u"112259_PM"_qs, platform::DefaultTimeText(Modified)};
-    words += {u"time_24hrs"_qs, u"2322"_qs, u"07"_qs + platform::FormatMoment(Modified, u":"_qs) + u"08"_qs};
-    for (qsizetype at = 0; at < words.size(); at += 3) {
-        const QString modified = u"$mod_"_qs + words[at] + u'$';
-        EXPECT_EQ(Value(u'$' + words[at] + u'$'), words.value(at + 1)) << words[at].toStdString();
-        EXPECT_EQ(Value(modified, ActionKind::Compose, u"(before)"_qs), words.value(at + 2))
-            << modified.toStdString();
+    rows.push_back({u"month"_qs, system.standaloneMonthName(11), system.standaloneMonthName(5)});
+    rows.push_back({u"weekday_name"_qs, DayName(7), DayName(2)});
+    rows.push_back({u"date_long"_qs, platform::FormatMoment(clock.now, u"long date"_qs),
+                    platform::FormatMoment(Modified, u"long date"_qs)});
+    rows.push_back({u"time_12hrs"_qs, u"112259_PM"_qs, platform::DefaultTimeText(Modified)});
+    rows.push_back(
+        {u"time_24hrs"_qs, u"2322"_qs, u"07"_qs + platform::FormatMoment(Modified, u":"_qs) + u"08"_qs});
+    for (const QStringList& row : rows) {
+        const QString modified = u"$mod_"_qs + row[0] + u'$';
+        EXPECT_EQ(Value(u'$' + row[0] + u'$'), row[1]) << row[0].toStdString();
+        EXPECT_EQ(Value(modified, ActionKind::Compose, u"(before)"_qs), row[2]) << modified.toStdString();
         EXPECT_EQ(Value(modified, ActionKind::Extension), modified) << "no token in an extension";
     }
     EXPECT_EQ(Value(u"$date$"_qs, ActionKind::Replace), u"141126"_qs);
     EXPECT_EQ(Value(u"$mod_date$"_qs, ActionKind::Replace), u"04.05.2009"_qs);
     clock.now = clock.now.addDays(1);
     EXPECT_EQ(Value(u"$dd$"_qs), u"15"_qs) << "the moment is read anew";
+    EXPECT_EQ(Value(u"$weekday$"_qs), u"1"_qs) << "a Sunday";
 }
 
 TEST_F(Tokens, AFileWithoutADateFailsWhereTheDateIsDue)
 {
-    row.modified.reset();
+    file.modified.reset();
     EXPECT_THROW(Value(u"$mod_yyyy$"_qs), model::ActionError);
     EXPECT_THROW(Value(u"$mod_time_12hrs$"_qs), model::ActionError);
     EXPECT_THROW(Value(u"$date_modified$"_qs, ActionKind::Replace), model::ActionError);
@@ -95,36 +88,34 @@ TEST_F(Tokens, AFileWithoutADateFailsWhereTheDateIsDue)
 
 TEST_F(Tokens, Sizes)
 {
-    const QStringList words =
-        Words(u"0 B 0B   9999999 B 9999999B   1e7 B 1E+07B   12345678 B 1.234568E+07B   0 KB 0KB "
-              u"1024 KB 1KB   1280 KB 1.2KB   1792 KB 1.8KB   1536 KB 1.5KB   1310720 MB 1.2MB "
-              u"1572864 MB 1.5MB"_qs);
-    for (qsizetype at = 0; at < words.size(); at += 3) {
-        row.size = words[at].toFloat();
-        EXPECT_EQ(Value(u"$filesize"_qs + words[at + 1] + u'$'), words.value(at + 2));
+    for (const QStringList& size :
+         Rows(3, u"0 B 0B   9999999 B 9999999B   12345678 B 1.234568E+07B "
+                 u"0 KB 0KB   1280 KB 1.2KB   1792 KB 1.8KB   1310720 MB 1.2MB"_qs)) {
+        file.size = size[0].toFloat();
+        EXPECT_EQ(Value(u"$filesize"_qs + size[1] + u'$'), size[2]);
     }
 }
 
 TEST_F(Tokens, EachActionHonoursItsOwn)
 {
     // Tokens, their values, and the groups of actions that honour them; "~" is a blank.
-    const QStringList words =
-        Words(u"$yyyy$ 2026 OACL   $filesizeB$ 1536B OACL   $foldername$ holiday OACL "
-              u"$Upper_Case$ A\u00c9 OL   $Lower_Case$ a\u00e9 OL   $Invert_Case$ A\u00c9 OL "
-              u"$Counter$ 001 OACLE   $AlphaCounter$ 00A OACLE   $Random~String$ x0 OA "
-              u"$Random$_## 00 C   <$Random$_#> <0> C   $Rand$_## 00 LE   <$Rand$_#> <0> LE "
-              u"$date_modified$ 05042009 L   $time_modified$ 070809 L   My~$Counter$ 1 - "
-              u"$Counter$~ 1 -   $counter$ 1 -   $YYYY$ 1 -   $random$_# 1 -   $mod_date_modified$ 1 - "
-              u"$current_date$ 1 -   $modified_time$ 1 -   $Exif~Data$ 1 -   $MP3~Data$ 1 -   $ 1 -"_qs);
+    const auto rows =
+        Rows(3, u"$yyyy$ 2026 OACL   $filesizeB$ 1536B OACL   $foldername$ holiday OACL "
+                u"$Upper_Case$ A\u00c9 OL   $Lower_Case$ a\u00e9 OL   $Invert_Case$ A\u00c9 OL "
+                u"$Counter$ 001 OACLE   $AlphaCounter$ 00A OACLE   $Random~String$ x0 OA "
+                u"$Random$_## 00 C   <$Random$_#> <0> C   $Rand$_## 00 LE   <$Rand$_#> <0> LE "
+                u"$date_modified$ 05042009 L   $time_modified$ 070809 L   My~$Counter$ 1 - "
+                u"$Counter$~ 1 -   $counter$ 1 -   $YYYY$ 1 -   $random$_# 1 -   $mod_date_modified$ 1 - "
+                u"$current_date$ 1 -   $modified_time$ 1 -   $Exif~Data$ 1 -   $MP3~Data$ 1 -   $ 1 -"_qs);
     const std::pair<ActionKind, QChar> kinds[] = {
         {ActionKind::ReplaceFirst, u'O'}, {ActionKind::ReplaceMid, u'O'}, {ActionKind::ReplaceLast, u'O'},
         {ActionKind::ReplaceAll, u'O'},   {ActionKind::Insert, u'A'},     {ActionKind::Suffix, u'A'},
         {ActionKind::Prefix, u'A'},       {ActionKind::Compose, u'C'},    {ActionKind::Replace, u'L'},
         {ActionKind::Extension, u'E'}};
     for (const auto& [kind, group] : kinds) {
-        for (qsizetype at = 0; at < words.size(); at += 3) {
-            EXPECT_EQ(Value(words[at], kind), words[at + 2].contains(group) ? words[at + 1] : words[at])
-                << words[at].toStdString() << " in " << NameOf(kind).toStdString();
+        for (const QStringList& row : rows) {
+            EXPECT_EQ(Value(row[0], kind), row[2].contains(group) ? row[1] : row[0])
+                << row[0].toStdString() << " in " << NameOf(kind).toStdString();
         }
         EXPECT_EQ(Value({}, kind), QString());
         EXPECT_EQ(Value(u"$Counter$"_qs, kind), u"002"_qs) << "each action counts for itself";

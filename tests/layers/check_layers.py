@@ -14,13 +14,13 @@ usage: check_layers.py SRC TESTS QTCORE   (QTCORE: the folder that holds Qt Core
 
 import re
 import sys
+from graphlib import CycleError, TopologicalSorter
 from pathlib import Path, PurePosixPath
 
 from rooms import GROUND, KNOWS, WINDOWING
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*(["<])([^">]+)[">]')
-FIXED_WAIT = re.compile(r"\b(qWait|qSleep|sleep|msleep|usleep|nanosleep|sleep_for|sleep_until)\s*\(")
-FIXED_WAIT_IN_SHELL = re.compile(r"\b(sleep)\s+[\d.$]")
+FIXED_WAIT = re.compile(r"\b(qWait|qSleep|sleep|msleep|usleep|nanosleep|sleep_for|sleep_until)\s*\(|^\s*(sleep)\b")
 COMMENT = re.compile(r"//.*$")
 
 
@@ -75,23 +75,10 @@ def fault_of_include(file, form, name, files, qt_core):
 
 def circle_in(graph):
     """The nodes of one circle, first one repeated at the end; empty if there is none."""
-    done, path = set(), []
-
-    def visit(node):
-        if node in path:
-            return path[path.index(node):] + [node]
-        if node in done:
-            return []
-        path.append(node)
-        for neighbour in sorted(graph.get(node, ())):
-            if circle := visit(neighbour):
-                return circle
-        done.add(path.pop())
-        return []
-
-    for node in sorted(graph):
-        if circle := visit(node):
-            return circle
+    try:
+        TopologicalSorter(graph).prepare()
+    except CycleError as error:
+        return error.args[1][::-1] # it names each node behind the one that includes it
     return []
 
 
@@ -117,21 +104,15 @@ def faults_of_sources(root, qt_core):
     return faults
 
 
-def fixed_waits(root):
-    """(file, line number, function) of each wait for a fixed time in a test."""
-    for path in sorted(root.rglob("*")):
-        if path.suffix in (".h", ".cpp", ".sh"):
-            pattern = FIXED_WAIT_IN_SHELL if path.suffix == ".sh" else FIXED_WAIT
-            for number, line in enumerate(path.read_text(encoding="utf-8").splitlines(), start=1):
-                if match := pattern.search(COMMENT.sub("", line)):
-                    yield path.relative_to(root).as_posix(), number, match[1]
-
-
 def faults_of_tests(root):
-    return [
-        f"{file}:{number}: {function} waits a fixed time, which is too long on a fast machine and too short on a slow one; "
-        "wait for what you expect: QTRY_VERIFY, QTest::qWaitFor, QSignalSpy::wait, or the end of a process"
-        for file, number, function in fixed_waits(root)]
+    faults = []
+    for path in sorted(path for path in root.rglob("*") if path.suffix in (".h", ".cpp", ".sh")):
+        for number, line in enumerate(path.read_text(encoding="utf-8").splitlines(), start=1):
+            if match := FIXED_WAIT.search(COMMENT.sub("", line)):
+                faults.append(
+                    f"{path.relative_to(root).as_posix()}:{number}: {match[1] or match[2]} waits a fixed time, too long on a "
+                    "fast machine and too short on a slow one; wait for what you expect (QTest::qWaitFor)")
+    return faults
 
 
 def main():

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // Lets GoogleTest print Qt's texts in failures. What can't be printed is shown by its code, so that a lone
-// surrogate, which stands for a byte of a file name, can be told. The overloads stand in the global
+// surrogate, which stands for a byte of a file name, can be told. It stands in the global
 // namespace, that of QString, where GoogleTest finds them.
 #pragma once
 
@@ -9,21 +9,12 @@
 #include <QDebug>
 #include <QStringList>
 
+#include <concepts>
 #include <ostream>
 
-// NOLINTBEGIN(readability-identifier-naming): names that GoogleTest looks for
-inline void PrintTo(const QString& text, std::ostream* out)
+template<typename Text>
+requires std::same_as<Text, QString> || std::same_as<Text, QStringList> || std::same_as<Text, QByteArray>
+void PrintTo(const Text& text, std::ostream* out) // NOLINT(readability-identifier-naming): GoogleTest's name
 {
     *out << QDebug::toString(text).toStdString();
 }
-
-inline void PrintTo(const QStringList& texts, std::ostream* out)
-{
-    *out << QDebug::toString(texts).toStdString();
-}
-
-inline void PrintTo(const QByteArray& bytes, std::ostream* out)
-{
-    *out << QDebug::toString(bytes).toStdString();
-}
-// NOLINTEND(readability-identifier-naming)

@@ -2,7 +2,7 @@
 //
 // Desk: a rename workspace with its window on show, over real files in a temporary folder, and the hands of a
 // person: controls are found by name and used by keys and mouse. A control that is missing, hidden or
-// disabled fails the test with a sentence; so does a message box that nobody took.
+// disabled fails the test with a sentence; so does a message box that nobody took. All widgets come with it.
 #pragma once
 
 #include "fileview/FileList.h"
@@ -11,11 +11,8 @@
 #include "workspace/ui/frmRenamer.h"
 
 #include <QAbstractItemModelTester>
-#include <QApplication>
-#include <QFileDialog>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QTest>
+#include <QtWidgets>
 
 #include <gtest/gtest.h>
 #include <stdexcept>

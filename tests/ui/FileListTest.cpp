@@ -209,12 +209,15 @@ TEST_F(FileListControl, TheEditBoxStaysOverItsCellOrLeavesIt)
     EXPECT_EQ(top - txtEdit.y(), 2 * CellRect(5, 1).height());
     header.resizeSection(0, header.sectionSize(0) + 40);
     EXPECT_EQ(txtEdit.geometry().right(), CellRect(5, 1).right());
+    QTest::keyClicks(&txtEdit, u"last"_qs);
+    rows.RemoveIf([](const model::FileRow& row) { return row.Text == u"100"_qs; });
     view.verticalScrollBar()->setValue(30);
-    EXPECT_FALSE(txtEdit.isVisible());
+    EXPECT_TRUE(!txtEdit.isVisible() && view.hasFocus());
+    EXPECT_EQ(rows.Cell(4, FileList::Name), u"last"_qs) << "written to its own row, wherever that is now";
     EXPECT_EQ(scrolled.count(), 2);
     EXPECT_EQ(control.TopIndex(), 31);
     control.SetTopIndex(1000);
-    EXPECT_TRUE(CellRect(50, 1).isValid() && view.viewport()->rect().contains(CellRect(50, 1)));
+    EXPECT_TRUE(CellRect(49, 1).isValid() && view.viewport()->rect().contains(CellRect(49, 1)));
 }
 
 TEST_F(FileListControl, ClicksSelectAndTellTheCell)
@@ -298,8 +301,10 @@ TEST_F(FileListControl, TheMenuWorksOnTheSelectedRowAndTheChecks)
     EXPECT_EQ(files.Names(u"target"_qs) + files.Names(u"sub"_qs), (QStringList{u"c.txt"_qs, u"c.txt"_qs}))
         << "moving doesn't replace";
     EXPECT_EQ(state.LastTargetFolder, answers.fileToChoose);
-    control.SetSelectedItem(0);
-    QTest::keyClick(&view, Qt::Key_Menu);
+    QContextMenuEvent byKey(QContextMenuEvent::Keyboard, {}, {});
+    QApplication::sendEvent(&view, &byKey);
+    EXPECT_TRUE(control.mnuOptions().isVisible());
+    control.mnuOptions().close();
     EXPECT_EQ(Names(), u"a.txt b.txt c.txt"_qs) << "rows stay as they were";
 }
 

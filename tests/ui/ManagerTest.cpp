@@ -5,11 +5,6 @@
 #include "Desk.h"
 #include "documents/ui/frmRenListMan.h"
 
-#include <QComboBox>
-#include <QLineEdit>
-#include <QMenu>
-#include <QPushButton>
-
 namespace {
 
 using ui_tests::Find;

@@ -4,9 +4,6 @@
 // closed, nobody waits for it in vain.
 #include "Desk.h"
 
-#include <QComboBox>
-#include <QLineEdit>
-
 #include <memory>
 
 namespace {
@@ -109,58 +106,30 @@ TEST(PickersOnScreen, StandBelowTheirComboKeepItsBlocksAndCloseWithIt)
     EXPECT_EQ(OpenPicker(), nullptr);
 }
 
-// A combo beside which there is no mask block, and what its window asks of the pickers.
-class MaskWindow : public testing::Test
+TEST(MaskPicker, WritesTheMaskHoweverItIsClosed)
 {
-protected:
-    // Picks in a combo of a window.
-    bool Pick(QComboBox& target, const QString& entry = u"$Random String$"_qs)
-    {
-        target.setEditable(true);
-        target.setEditText(entry);
-        window.show();
-        target.show();
-        return pickers.Pick(entry, target, workspace::MaskFrom::Window, [this, open = QPointer(&target)] {
-            closed << (open ? open->currentText() : u"gone"_qs);
-        });
-    }
-
     model::AppState state;
     testing_support::FixedRandom random;
     QWidget window;
-    std::unique_ptr<QComboBox> combo = std::make_unique<QComboBox>(&window);
-    QStringList closed; // the combo's text at each call
-    workspace::Pickers pickers{state, random};
-};
-
-TEST_F(MaskWindow, WritesTheMaskHoweverItIsClosed)
-{
-    const auto press = [](Qt::Key key) {
-        return [key](QWidget& box) {
-            QTest::keyClick(&box, key);
-        };
+    QComboBox combo(&window);
+    combo.setEditable(true);
+    workspace::Pickers pickers(state, random);
+    const std::pair<std::function<void(QWidget&)>, const char*> ways[] = {
+        {[](QWidget& box) { QTest::keyClick(&box, Enter); }, "Enter"},
+        {[](QWidget& box) { QTest::keyClick(&box, Escape); }, "Escape"},
+        {[](QWidget& box) { box.window()->close(); }, "title bar"},
+        {[&](QWidget&) { window.hide(); }, "its owner hides"},
+        {[&](QWidget&) { pickers.Close(); }, "its owner takes it away"},
     };
-    const std::pair<const char*, std::function<void(QWidget&)>> ways[] = {
-        {"Enter", press(Enter)},
-        {"Escape", press(Escape)},
-        {"title bar",
-         [](QWidget& box) {
-             box.window()->close();
-         }},
-        {"its owner hides",
-         [this](QWidget&) {
-             window.hide();
-         }},
-        {"its owner takes it away",
-         [this](QWidget&) {
-             pickers.Close();
-         }},
-    };
-    for (const auto& [way, close] : ways) {
+    for (const auto& [close, way] : ways) {
         SCOPED_TRACE(way);
         state.LastMask = u"AA"_qs;
-        closed.clear();
-        ASSERT_TRUE(Pick(*combo));
+        window.show();
+        QStringList closed; // the combo's text at each call
+        const auto note = [&] {
+            closed << combo.currentText();
+        };
+        ASSERT_TRUE(pickers.Pick(u"$Random String$"_qs, combo, workspace::MaskFrom::Window, note));
         EXPECT_EQ(OpenPicker()->windowTitle(), u"Random Strings"_qs);
         auto& box = InPicker<QLineEdit>("txtRandomMask");
         QTest::keyClicks(&box, u"-"_qs);
@@ -170,24 +139,6 @@ TEST_F(MaskWindow, WritesTheMaskHoweverItIsClosed)
         EXPECT_EQ(state.LastMask, u"AA-"_qs);
         EXPECT_EQ(OpenPicker(), nullptr);
     }
-}
-
-TEST_F(MaskWindow, GivesWayToAnotherPickAndToTheEndOfItsCombo)
-{
-    QComboBox other(&window);
-    state.LastMask = u"##"_qs;
-    Pick(other);
-    Pick(*combo);
-    EXPECT_EQ(closed, QStringList{u"$Rand$_##"_qs});
-    EXPECT_TRUE(Pick(*combo, u"$modified_date$"_qs));
-    EXPECT_TRUE(Pick(*combo));
-    EXPECT_EQ(combo->currentText(), u"$Random String$"_qs); // as picked last
-    EXPECT_EQ(closed.size(), 1);
-    other.hide();
-    combo.reset();
-    QCoreApplication::sendPostedEvents();
-    EXPECT_EQ(closed.mid(1), QStringList(3, u"gone"_qs));
-    EXPECT_EQ(OpenPicker(), nullptr);
 }
 
 } // namespace

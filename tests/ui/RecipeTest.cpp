@@ -18,11 +18,14 @@ struct Recipe
 };
 
 const Recipe Recipes[] = {
-    {ActionKind::ReplaceFirst, "Text1=2 cmbFirst=$Counter$"},
-    {ActionKind::ReplaceMid, "Text12=2 Text13=2 cmbMid=$Upper_Case$"},
-    {ActionKind::ReplaceLast, "Text14=1 cmbLast=$AlphaCounter$"},
+    {ActionKind::ReplaceFirst, "Text1=2 cmbFirst+1 txtFirstC0=7"},
+    {ActionKind::ReplaceMid, "Text12=2 Text13=2 cmbMid+2 txtMidA0=q"},
+    {ActionKind::ReplaceLast, "Text14=1 cmbLast+2 txtLastA4=2"},
+    {ActionKind::ReplaceLast, "cmbLast=$Upper_Case$"},
     {ActionKind::ReplaceAll, "cmbAll+1 txtAllC0=9 txtAllC1=-2 txtAllC4=n"},
-    {ActionKind::Insert, "cmbInsert+3 Text43=A Check2 cmbInsertS=-"},
+    {ActionKind::ReplaceAll, "cmbAll+14 Text56=xyz"},
+    {ActionKind::Insert, "cmbInsert+3 Text43=A Check2 cmbInsertS+1 txtInsertC5=-"},
+    {ActionKind::Suffix, "cmbSuffix+1 txtSuffixC4=_"},
     {ActionKind::Suffix, "cmbSuffix=$filesizeB$"},
     {ActionKind::Prefix, "cmbPrefix+2 txtPrefixA0=y txtPrefixA1=3"},
     {ActionKind::Length, "cmbLength=4 Option3 Text37=2 Option20 Text19=_"},
@@ -50,12 +53,12 @@ TEST(RecipeFromTheWindow, GivesTheNamesOfThePreviewOnTheCommandLine)
     const QStringList names{u"alpha.txt"_qs, u"Beta b.tar.gz"_qs, u"gAmm\u00e4.Jpg"_qs};
     for (const Recipe& recipe : Recipes) {
         const std::string action = model::NameOf(recipe.kind).toStdString();
-        Desk desk(names, {[&desk](const QString& path) {
-                              return documents::SaveRenameDrop(desk.workspace.options, path);
-                          },
-                          {},
-                          {},
-                          {}});
+        const actions::RenameOptions* options = nullptr;
+        const auto save = [&options](const QString& path) {
+            return documents::SaveRenameDrop(*options, path);
+        };
+        Desk desk(names, {save, {}, {}, {}});
+        options = &desk.workspace.options;
         desk.Click("cmdRefresh");
         desk.GoTo(recipe.kind, true);
         for (const QByteArray& step : QByteArray(recipe.steps).split(' ')) {
@@ -64,10 +67,10 @@ TEST(RecipeFromTheWindow, GivesTheNamesOfThePreviewOnTheCommandLine)
         desk.Click("cmdPreview");
         QStringList previews = desk.Previews();
         EXPECT_NE(previews, names) << action;
-        desk.answers.fileToChoose = desk.home.Path() + u"my.rnp"_qs;
+        desk.answers.fileToChoose = desk.home.Path() + u"my"_qs; // the ending is added
         desk.Click("Command12");
-        EXPECT_EQ(e2e::Program().Run(desk.files.Path(), QStringList(desk.answers.fileToChoose) + names),
-                  "0 ");
+        const QString drop = desk.home.Path() + u"my.rnp"_qs;
+        EXPECT_EQ(e2e::Program().Run(desk.files.Path(), QStringList(drop) + names), "0 ");
         previews.sort();
         EXPECT_EQ(desk.files.Names(), previews) << action;
     }

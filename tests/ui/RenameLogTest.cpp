@@ -5,55 +5,40 @@
 #include "Desk.h"
 #include "workspace/ui/frmLog.h"
 
-#include <QTableView>
-
 namespace {
 
 using ui_tests::Desk;
 using ui_tests::Find;
 
-struct LogCase
-{
-    const char* name;
-    QByteArray file;
-    const char* cells; // fields by "|", rows by "/"; "!" behind a red cell
+// Lines of a log's file, and the cells that show each; "!" stands behind a red one.
+const std::pair<QByteArray, QString> LogLines[] = {
+    {"/f/ : a : b : Rename Successful", u"/f/|a|b|Rename Successful"_qs},
+    {"/f/ : c : d : File not found", u"/f/|c|d|File not found!"_qs},
+    {"/f/ : a : b : odd : very odd", u"/f/|a|b|odd : very odd!"_qs}, // a result keeps its separators
+    {"/f : g/ : a : b : Rename Successful", u"/f|g/|a|b : Rename Successful!"_qs}, // one in the path shifts
+    {"/f/ : a", u"/f/|a||!"_qs},                                                   // a short line
 };
-
-const LogCase LogCases[] = {
-    {"an empty file has no rows", "", ""},
-    {"a success is plain and a failure red",
-     "/f/ : a : b : Rename Successful\r\n/f/ : c : d : File not found\r\n",
-     "/f/|a|b|Rename Successful/f/|c|d|File not found!"},
-    {"a result keeps its own separators", "/f/ : a : b : odd : very odd\r\n", "/f/|a|b|odd : very odd!"},
-    {"a separator in the path shifts the fields", "/f : g/ : a : b : Rename Successful\r\n",
-     "/f|g/|a|b : Rename Successful!"},
-    {"a short line leaves the last fields empty", "/f/ : a\r\n", "/f/|a||!"},
-};
-
-QString CellsOf(const QAbstractItemModel& log)
-{
-    QString cells;
-    for (int row = 0; row < log.rowCount(); ++row) {
-        for (int column = 0; column < log.columnCount(); ++column) {
-            const QModelIndex cell = log.index(row, column);
-            cells += (column > 0 ? u"|"_qs : QLatin1String()) + cell.data().toString();
-            if (cell.data(workspace::RunLog::ColourRole).isValid()) {
-                cells += QLatin1Char('!');
-            }
-        }
-    }
-    return cells;
-}
 
 TEST(RenameLog, ShowsEveryLineOfTheFile)
 {
     testing_support::TempFolder folder;
     workspace::RunLog log;
     const QAbstractItemModelTester tester(&log, QAbstractItemModelTester::FailureReportingMode::Fatal);
-    for (const LogCase& row : LogCases) {
-        folder.Write(u"templog.log"_qs, row.file);
-        log.Load(folder.Path() + u"templog.log"_qs);
-        EXPECT_EQ(CellsOf(log), QLatin1String(row.cells)) << row.name;
+    QByteArray file;
+    for (const auto& [line, cells] : LogLines) {
+        file += line + "\r\n";
+    }
+    folder.Write(u"templog.log"_qs, file);
+    log.Load(folder.Path() + u"templog.log"_qs);
+    ASSERT_EQ(log.rowCount(), std::ssize(LogLines));
+    for (int row = 0; row < log.rowCount(); ++row) {
+        QStringList cells;
+        for (int column = 0; column < log.columnCount(); ++column) {
+            const QModelIndex cell = log.index(row, column);
+            const bool isRed = cell.data(workspace::RunLog::ColourRole).isValid();
+            cells << cell.data().toString() + (isRed ? u"!"_qs : QString());
+        }
+        EXPECT_EQ(cells.join(u'|'), LogLines[row].second);
     }
     log.Load(folder.Path() + u"missing.log"_qs);
     EXPECT_EQ(log.rowCount(), 0);

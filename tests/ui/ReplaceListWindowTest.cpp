@@ -4,15 +4,6 @@
 // nowhere after Cancel.
 #include "Desk.h"
 
-#include <QAction>
-#include <QCheckBox>
-#include <QClipboard>
-#include <QComboBox>
-#include <QContextMenuEvent>
-#include <QLineEdit>
-#include <QMenu>
-#include <QTableView>
-
 namespace {
 
 using actions::ReplaceRows;
@@ -132,9 +123,13 @@ TEST_F(ReplaceLists, KeysAndTheMenuOfTheRightButtonWorkOnTheCell)
     EXPECT_EQ(QApplication::clipboard()->text(), u"2"_qs);
     menu[2]->trigger();
     EXPECT_EQ(Text(1, 3), QString());
+    grid->model()->setData(Cell(1, 3), u"1\n2"_qs); // as from the clipboard
     grid->setCurrentIndex(Cell(1, 2));
     menu[0]->trigger();
     EXPECT_EQ(SelectedText(), u"nold"_qs);
+    Click("cmdCScr");
+    EXPECT_EQ(options.replace.ReplaceList, (ReplaceRows{{u"y"_qs, u"nold"_qs, u"1"_qs}, {}}));
+    EXPECT_EQ(grid->model()->rowCount(), 500);
 }
 
 TEST_F(ReplaceLists, TheMarkOfALoadedFileFallsOnTheRowsOfTheOldList)

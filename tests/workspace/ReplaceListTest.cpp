@@ -1,16 +1,12 @@
 // SPDX-License-Identifier: MIT
 //
-// The list behind the replace windows and its file: which rows count, what loading and marking leave alone,
-// and that a file of any kind is either taken as it stands or refused without harm.
+// The file of a replace list: of any kind, it is either taken as it stands or refused without harm.
 #include "support/TempFolder.h"
-#include "workspace/ReplaceGrid.h"
 #include "workspace/ReplaceListFile.h"
 
 #include <gtest/gtest.h>
 
 namespace {
-
-using workspace::ReplaceGrid;
 
 // Rows parted by blanks, their cells by ",".
 QByteArray Texts(const actions::ReplaceRows& rows)
@@ -20,40 +16,6 @@ QByteArray Texts(const actions::ReplaceRows& rows)
         texts << QStringList{row.matchFlag, row.from, row.to}.join(u',');
     }
     return texts.join(u' ').toUtf8();
-}
-
-struct GridCase
-{
-    const char* name;
-    void (*change)(ReplaceGrid&);
-    int count;
-    const char* firstThree;
-};
-
-const GridCase GridCases[] = {
-    {"a touched row", [](ReplaceGrid& grid) { grid.Touch(3); }, 3, "n,a,1 y,b,2 ,,"},
-    {"an empty flag in an edited row", [](ReplaceGrid& grid) { grid.BeginEdit(3); }, 3, "n,a,1 y,b,2 n,,"},
-    {"marks are capitals", [](ReplaceGrid& grid) { grid.MarkAll(true); }, 2, "Y,a,1 Y,b,2 ,,"},
-    {"cleared rows stay in the list", [](ReplaceGrid& grid) { grid.Clear(); }, 2, ",, ,, ,,"},
-    {"a deleted row", [](ReplaceGrid& grid) { grid.DeleteRow(1); }, 2, "y,b,2 ,, ,,"},
-    {"older rows on show", [](ReplaceGrid& grid) { grid.Load({{}}); }, 1, ",, y,b,2 ,,"},
-    {"a cell of one line", [](ReplaceGrid& grid) { grid.setData(grid.index(0, 2), QLatin1String("1\n2")); },
-     2, "n,a,1 y,b,2 ,,"},
-};
-
-TEST(ReplaceGrid, KeepsItsFiveHundredRowsAndItsCount)
-{
-    for (const GridCase& each : GridCases) {
-        SCOPED_TRACE(each.name);
-        ReplaceGrid grid({});
-        grid.Show({{QStringLiteral("n"), QStringLiteral("a"), QStringLiteral("1")},
-                   {QStringLiteral("y"), QStringLiteral("b"), QStringLiteral("2")}});
-        each.change(grid);
-        EXPECT_EQ(grid.Count(), each.count);
-        EXPECT_EQ(grid.rowCount(), 500);
-        grid.Touch(3);
-        EXPECT_EQ(Texts(grid.Rows()), each.firstThree);
-    }
 }
 
 TEST(ReplaceListFile, TakesWhatIsThereAndRefusesForeignFiles)

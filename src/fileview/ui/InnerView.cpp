@@ -28,6 +28,12 @@ bool IsOfKeys(const QEvent& event)
     return event.type() == QEvent::KeyPress || event.type() == QEvent::KeyRelease;
 }
 
+// What comes to a view itself and not to its viewport: keys, and the key of the menu.
+bool IsOfView(const QEvent& event)
+{
+    return IsOfKeys(event) || event.type() == QEvent::ContextMenu;
+}
+
 // Says in the middle of an empty view that it is empty.
 void PaintEmptyText(QAbstractItemView& view, const QString& text)
 {
@@ -152,7 +158,7 @@ FileTable::FileTable(const ListProperties& properties, ViewListener& listener, Q
 
 bool FileTable::event(QEvent* event)
 {
-    return IsOfKeys(*event) ? Hear(listener_, *event, [&] { return QTableView::event(event); })
+    return IsOfView(*event) ? Hear(listener_, *event, [&] { return QTableView::event(event); })
                             : QTableView::event(event);
 }
 
@@ -206,6 +212,7 @@ void FileTable::keyboardSearch(const QString& search)
 IconList::IconList(ViewListener& listener, QWidget* parent) : QListView(parent), listener_(listener)
 {
     setEditTriggers(NoEditTriggers);
+    setSelectionBehavior(SelectRows); // as in the table, which has the same selection
     setResizeMode(Adjust);
     setLayoutMode(Batched);
     setUniformItemSizes(true);
@@ -237,7 +244,7 @@ void IconList::paintEvent(QPaintEvent* event)
 
 bool IconList::event(QEvent* event)
 {
-    return IsOfKeys(*event) ? Hear(listener_, *event, [&] { return QListView::event(event); })
+    return IsOfView(*event) ? Hear(listener_, *event, [&] { return QListView::event(event); })
                             : QListView::event(event);
 }
 

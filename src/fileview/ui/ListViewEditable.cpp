@@ -82,6 +82,7 @@ ListViewEditable::ListViewEditable(FileList& rows, model::RunHost& host, model::
 // While the views go they still tell this control of their events.
 ListViewEditable::~ListViewEditable()
 {
+    txtEdit_->removeEventFilter(this); // what is being typed is dropped
     delete views_;
 }
 
@@ -127,7 +128,9 @@ void ListViewEditable::MakeViews()
     });
     connect(&rows_, &FileList::SortChanged, this, &ListViewEditable::TakeSortOfRows);
     connect(&rows_, &FileList::ItemChecked, this, &ListViewEditable::ItemCheck);
-    connect(&rows_, &QAbstractItemModel::modelReset, this, [this] { txtEdit_->hide(); });
+    connect(&rows_, &QAbstractItemModel::modelReset, this, &ListViewEditable::LeaveEdit);
+    connect(&rows_, &QAbstractItemModel::layoutChanged, this, &ListViewEditable::PlaceEdit);
+    connect(&rows_, &QAbstractItemModel::rowsRemoved, this, &ListViewEditable::PlaceEdit);
 
     headerSubclass_.AddMsg(Message::LeftButtonUp, windowing::When::After);
     headerSubclass_.Subclass(*table_->Header().viewport(), *this);
@@ -173,6 +176,7 @@ void ListViewEditable::ApplyColumns()
 
 void ListViewEditable::Apply()
 {
+    properties_.CurrrentHighlightColumn = std::max(1, properties_.CurrrentHighlightColumn);
     const ListProperties& of = properties_;
     views_->setCurrentIndex(of.View == lvwReport ? 0 : 1);
     iconList_->Arrange(of);
@@ -271,16 +275,26 @@ int ListViewEditable::SelectedCount() const
 
 void ListViewEditable::SelectedAll(bool Value)
 {
+    rows_.AnnounceRows();
     Value ? ListView().selectAll() : table_->selectionModel()->clearSelection();
 }
 
 void ListViewEditable::InvertSelections()
 {
     rows_.AnnounceRows();
-    if (rows_.Count() > 0) {
-        const QItemSelection all(rows_.index(0, 0), rows_.index(rows_.Count() - 1, 0));
-        table_->selectionModel()->select(all, QItemSelectionModel::Toggle | QItemSelectionModel::Rows);
+    std::vector<int> selected;
+    GetSelectedItems(selected);
+    selected.push_back(rows_.Count() + 1);
+    QItemSelection others;
+    int first = 1;
+    for (const int row : selected) {
+        if (first < row) {
+            others.append(QItemSelectionRange(rows_.index(first - 1, 0),
+                                              rows_.index(row - 2, rows_.columnCount() - 1)));
+        }
+        first = row + 1;
     }
+    table_->selectionModel()->select(others, QItemSelectionModel::ClearAndSelect);
 }
 
 int ListViewEditable::GetSelectedItems(std::vector<int>& Items) const
@@ -318,7 +332,7 @@ int ListViewEditable::VisibleCount() const
 
 int ListViewEditable::TopIndex() const
 {
-    return table_->rowAt(0) + 1;
+    return std::max(0, table_->rowAt(0)) + 1;
 }
 
 void ListViewEditable::SetTopIndex(int row)
@@ -527,7 +541,8 @@ void ListViewEditable::MouseMoved(const QMouseEvent& event)
                                                     rows_.Cell(hit.row, FileList::Name));
     }
     if (properties_.HoverSelection && hit.row > 0 && event.buttons() == Qt::NoButton) {
-        SetSelectedItem(hit.row);
+        table_->selectionModel()->setCurrentIndex(
+            rows_.index(hit.row - 1, 0), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     }
     Q_EMIT MouseMove(ButtonOf(event.button()), ShiftOf(event.modifiers()), event.pos().x() * TwipsPerPixel,
                      event.pos().y() * TwipsPerPixel);
@@ -544,7 +559,7 @@ void ListViewEditable::MouseReleased(const QMouseEvent& event)
     const Place hit = HitTest(event.pos());
     if (hit.row > 0 && properties_.SubitemSelect) {
         SetSelectedItem(hit.row);
-        editPlace_ = hit;
+        editCell_ = rows_.index(hit.row - 1, hit.subItem);
         if (properties_.AllowItemEdit) {
             OpenEdit();
         }
@@ -562,7 +577,7 @@ void ListViewEditable::MouseReleased(const QMouseEvent& event)
 bool ListViewEditable::KeyPressed(const QKeyEvent& event)
 {
     Q_EMIT KeyDown(event.key(), ShiftOf(event.modifiers()));
-    if (!event.text().isEmpty()) {
+    if (!event.text().isEmpty() && !event.text().at(0).isNull()) {
         Q_EMIT KeyPress(event.text().at(0).unicode());
     }
     const bool checks = event.key() == Qt::Key_Space && event.modifiers() == Qt::NoModifier &&
@@ -607,15 +622,19 @@ bool ListViewEditable::eventFilter(QObject* watched, QEvent* event)
         return QWidget::eventFilter(watched, event);
     }
     if (event->type() == QEvent::FocusOut) {
-        LeaveEdit();
+        // The box's own menu and another program take the focus only for a while.
+        const auto reason = static_cast<const QFocusEvent*>(event)->reason();
+        if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason) {
+            LeaveEdit();
+        }
     } else if (event->type() == QEvent::KeyPress) {
         switch (static_cast<const QKeyEvent*>(event)->key()) {
         case Qt::Key_Escape:
-            txtEdit_->setText(rows_.Cell(editPlace_.row, editPlace_.subItem + 1));
+            txtEdit_->setText(TextInEdit());
             [[fallthrough]];
         case Qt::Key_Return:
         case Qt::Key_Enter:
-            ListView().setFocus(); // and so leaves the box
+            LeaveEdit();
             return true;
         default:
             break;
@@ -624,16 +643,22 @@ bool ListViewEditable::eventFilter(QObject* watched, QEvent* event)
     return false;
 }
 
+// The cell's text, not what is being typed.
+QString ListViewEditable::TextInEdit() const
+{
+    return editCell_.isValid() ? rows_.Cell(editCell_.row() + 1, editCell_.column() + 1) : QString();
+}
+
 void ListViewEditable::OpenEdit()
 {
     if (properties_.View != lvwReport) {
         return;
     }
-    const auto& column = rows_.ColumnHeaders().at(static_cast<std::size_t>(editPlace_.subItem));
+    const auto& column = rows_.ColumnHeaders().at(static_cast<std::size_t>(editCell_.column()));
     txtEdit_->setAlignment(column.Alignment == lvwColumnRight    ? Qt::AlignRight
                            : column.Alignment == lvwColumnCenter ? Qt::AlignHCenter
                                                                  : Qt::AlignLeft);
-    txtEdit_->setText(rows_.Cell(editPlace_.row, editPlace_.subItem + 1));
+    txtEdit_->setText(TextInEdit());
     txtEdit_->show();
     PlaceEdit();
     if (txtEdit_->isVisible()) {
@@ -642,19 +667,18 @@ void ListViewEditable::OpenEdit()
     }
 }
 
-// Keeps an open box over its cell, or leaves it when the cell went out of sight.
+// Keeps an open box over its cell, or leaves it when the cell is out of sight or gone.
 void ListViewEditable::PlaceEdit()
 {
     if (txtEdit_->isHidden()) {
         return;
     }
-    const QModelIndex index = rows_.index(editPlace_.row - 1, editPlace_.subItem);
-    QRect cell = table_->visualRect(index);
-    if (!cell.intersects(table_->viewport()->rect())) {
+    QRect cell = table_->visualRect(editCell_);
+    if (!editCell_.isValid() || !cell.intersects(table_->viewport()->rect())) {
         LeaveEdit();
         return;
     }
-    if (editPlace_.subItem == 0) {
+    if (editCell_.column() == 0) {
         QStyleOptionViewItem option;
         option.initFrom(table_);
         option.rect = cell;
@@ -669,25 +693,30 @@ void ListViewEditable::PlaceEdit()
 
 void ListViewEditable::LeaveEdit()
 {
+    if (txtEdit_->hasFocus()) {
+        ListView().setFocus(); // else hiding the box would give it to another control
+    }
     if (txtEdit_->isHidden()) {
-        return;
+        return; // left by losing the focus
     }
-    const auto [row, subItem] = editPlace_;
-    QString newText = txtEdit_->text();
     txtEdit_->hide();
-    QString oldText = rows_.Cell(row, subItem + 1);
-    if (row > rows_.Count() || newText == oldText) {
+    QString oldText = TextInEdit();
+    QString newText = txtEdit_->text();
+    if (!editCell_.isValid() || newText == oldText) {
         return;
     }
+    const auto write = [this](const QString& text) {
+        rows_.SetCell(editCell_.row() + 1, editCell_.column() + 1, text); // of a row that is gone: nothing
+    };
     bool isCancelled = false;
-    Q_EMIT BeforeItemEdit(isCancelled, row, subItem, oldText, newText);
+    Q_EMIT BeforeItemEdit(isCancelled, editCell_.row() + 1, editCell_.column(), oldText, newText);
     if (isCancelled) {
         return;
     }
-    rows_.SetCell(row, subItem + 1, newText);
-    Q_EMIT AfterItemEdit(isCancelled, row, subItem, oldText, newText);
+    write(newText);
+    Q_EMIT AfterItemEdit(isCancelled, editCell_.row() + 1, editCell_.column(), oldText, newText);
     if (isCancelled) {
-        rows_.SetCell(row, subItem + 1, oldText);
+        write(oldText);
     }
 }
 

@@ -183,6 +183,7 @@ private:
     void ShowMenu(const QPoint& globalPosition);
     void Transfer(bool moves);
 
+    QString TextInEdit() const;
     void OpenEdit();
     void PlaceEdit();
     void LeaveEdit();
@@ -198,7 +199,7 @@ private:
     FileTable* table_ = nullptr;
     IconList* iconList_ = nullptr;
     QLineEdit* txtEdit_ = nullptr;
-    Place editPlace_; // the cell of the last click, or of the edit
+    QPersistentModelIndex editCell_; // of the last click, or of the edit
     QMenu* menu_ = nullptr;
     windowing::CSubclass listSubclass_;
     windowing::CSubclass headerSubclass_;
