@@ -64,7 +64,11 @@ public:
     bool Remove(int Index);
     bool Remove(const QString& Key);
 
-    void Clear() { items_.clear(); }
+    void Clear()
+    {
+        items_.clear();
+        keys_.clear();
+    }
 
     // Adds a column under a key, or without one; before or after the item of that index if one is given, else
     // at the end. Null if the key is taken or there is no such index, and nothing is added. The item is valid

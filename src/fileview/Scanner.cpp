@@ -99,7 +99,7 @@ Scanner::Listing Scanner::ReadFolder(const QString& folder)
 {
     constexpr std::size_t entriesBetweenYields = 1'000;
     platform::FolderReader reader(folder);
-    Listing listing{reader.OpenStatus().IsOk(), {}};
+    Listing listing{reader.ReadStatus().IsOk(), {}};
     for (platform::FolderEntry entry; reader.Next(entry);) {
         listing.entries.push_back(std::move(entry));
         if (listing.entries.size() % entriesBetweenYields == 0) {
@@ -168,7 +168,7 @@ void Scanner::StepProgress()
 platform::Status GetFileCount(const QString& Path, int& count)
 {
     platform::FolderReader reader(Path);
-    if (const platform::Status opened = reader.OpenStatus(); !opened.IsOk()) {
+    if (const platform::Status opened = reader.ReadStatus(); !opened.IsOk()) {
         const auto info = platform::FileSystem().GetInfo(Path, {});
         return platform::Status::Failure(
             QStringLiteral("Error form Functions.GetFileCount ") +

@@ -5,8 +5,25 @@
 
 namespace fileview {
 
+namespace {
+
+// Each character in lower case by itself, so that it stays one character.
+QString LowerEach(const QString& text)
+{
+    QString lower;
+    lower.reserve(text.size());
+    for (qsizetype at = 0; at < text.size();) {
+        const QStringView character = model::CharacterAt(text, at);
+        lower += QStringView(QChar::fromUcs4(QChar::toLower(model::CodePoint(character))));
+        at += character.size();
+    }
+    return lower;
+}
+
+} // namespace
+
 Wildcard::Wildcard(const QString& pattern)
-    : pattern_(model::LowerCase(pattern)),
+    : pattern_(LowerEach(pattern)),
       matchesAll_(pattern == QStringLiteral("*.*") || pattern == QStringLiteral("*"))
 {}
 
@@ -15,7 +32,7 @@ bool Wildcard::Matches(const QString& name) const
     if (matchesAll_) {
         return true;
     }
-    const QString text = model::LowerCase(name);
+    const QString text = LowerEach(name);
     qsizetype at = 0;
     qsizetype inPattern = 0;
     // The last "*" and the text that it left over: if the rest doesn't fit, it takes one character more.

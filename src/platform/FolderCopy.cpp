@@ -32,12 +32,14 @@ QByteArray RealPath(const QByteArray& path)
     return ::realpath(path.constData(), real.data()) ? QByteArray(real.data()) : QByteArray();
 }
 
+Status CopySubfolder(const QString& from, mode_t mode, const QString& to);
+
 // Copies what is in `from` into the folder `to`, which is there. Stops at the first failure. What is neither
 // file, folder nor link (a pipe, say) has nothing to copy and is passed over.
 Status CopyEntries(const QString& from, const QString& to)
 {
     FolderReader reader(from);
-    Status copied = reader.OpenStatus();
+    Status copied = reader.ReadStatus();
     for (FolderEntry entry; copied.IsOk() && reader.Next(entry);) {
         const QString source = from + PathSeparator + entry.name;
         const QString target = to + PathSeparator + entry.name;
@@ -50,11 +52,22 @@ Status CopyEntries(const QString& from, const QString& to)
         } else if (S_ISREG(info.st_mode)) {
             copied = CopyFile(source, target);
         } else if (S_ISDIR(info.st_mode)) {
-            copied = CreateFolder(target);
-            copied = copied.IsOk() ? CopyEntries(source, target) : copied;
+            copied = CopySubfolder(source, info.st_mode, target);
         }
     }
-    return copied;
+    return copied.IsOk() ? reader.ReadStatus() : copied;
+}
+
+// A new folder gets its permissions last: they may forbid to write into it.
+Status CopySubfolder(const QString& from, mode_t mode, const QString& to)
+{
+    const QByteArray path = ToBytes(to);
+    const bool isNew = ::mkdir(path.constData(), 0700) == 0;
+    if (!isNew && errno != EEXIST) {
+        return FailureOf(errno);
+    }
+    Status copied = CopyEntries(from, to);
+    return copied.IsOk() && isNew && ::chmod(path.constData(), mode & 0777) != 0 ? FailureOf(errno) : copied;
 }
 
 // A new hidden folder beside `target`, removed with all that is in it unless it was put in the target's

@@ -25,8 +25,10 @@ bool FolderReader::Next(FolderEntry& entry)
     const dirent* read = nullptr;
     std::string_view name;
     do {
+        errno = 0;
         read = folder_ ? ::readdir(folder_.get()) : nullptr;
         if (!read) {
+            status_ = errno != 0 ? FailureOf(errno) : status_;
             return false;
         }
         name = read->d_name;

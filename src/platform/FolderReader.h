@@ -29,8 +29,8 @@ public:
     // no entries.
     explicit FolderReader(const QString& folder);
 
-    // Whether the folder could be opened, and if not, why.
-    const Status& OpenStatus() const { return status_; }
+    // Whether the folder could be opened and read so far, and if not, why.
+    const Status& ReadStatus() const { return status_; }
 
     // Gives the next entry; false after the last one. A read that fails ends the folder.
     bool Next(FolderEntry& entry);

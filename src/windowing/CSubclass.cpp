@@ -137,8 +137,8 @@ void CSubclass::UnSubclass()
 {
     if (hWnd_) {
         hWnd_->removeEventFilter(this);
+        hWnd_ = nullptr;
     }
-    hWnd_ = nullptr;
 }
 
 void CSubclass::AddMsgDropFiles(When when)

@@ -94,10 +94,9 @@ void ListViewEditable::MakeViews()
     table_->setAccessibleName(tr("Files"));
     iconList_ = new IconList(*this, this);
     iconList_->setAccessibleName(tr("Files"));
-    auto* delegate = new RowDelegate(properties_, icons_, this);
     for (QAbstractItemView* view : std::initializer_list<QAbstractItemView*>{table_, iconList_}) {
         view->setModel(&rows_);
-        view->setItemDelegate(delegate);
+        view->setItemDelegate(new RowDelegate(properties_, icons_, view));
         view->viewport()->setMouseTracking(true);
         view->setContextMenuPolicy(Qt::NoContextMenu); // the control's events open the menu
         views_->addWidget(view);
