@@ -29,7 +29,18 @@ struct AppState
     bool SkipNextFolderEvent = false;
     bool ClosingDown = false;          // the program ends; a late scan shows nothing any more
     bool SortNamesByMagnitude = false; // a2.txt before a10.txt, when a click on a heading sorts names
-    int OnTopState = 0;                // 1: the window that asked for it stays above others
+    bool KeepFileTypes = false;        // the entries of the type filter stay as they are
+    int OnTopState = 0;                // the window that stays above others, see windowing/OnTopGroup.h
+
+    // What the main window shows.
+    QString LastFolder;           // the folder chosen last
+    QString FileTypeFilter;       // a type text, "*.*" or "All Files"
+    QString ViewMode;             // "Report", "Icons" or "List"
+    int AllSelected = 0;          // 1: all files are checked when a folder is chosen
+    int ShowHiddenFolders = 0;    // 1: the tree shows folders whose names begin with a dot
+    int DontAskBookmarkNames = 0; // 1: bookmarks are named by number
+    bool ClearOnDragDrop = false; // dropped folders take the place of what is listed
+    int MetadataChoice = 0;       // entry that the pickers of metadata begin with
 
     // Preferences, 0 or 1.
     int AutoRefreshRenameView = 0;

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "platform/FileSystem.h"
 
+#include "platform/Attributes.h"
 #include "platform/FileCopy.h"
 #include "platform/NameBytes.h"
 
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <sys/xattr.h>
 #include <unistd.h>
 #include <utility>
 
@@ -164,22 +164,7 @@ Status FileSystem::Move(const QString& folder, const QString& name, const QStrin
 
 Status FileSystem::SetNormalAttributes(const QString& folder, const QString& name)
 {
-    const auto path = ToPath(folder + name);
-    struct stat info
-    {};
-    if (!path) {
-        return Missing({}, false);
-    }
-    if (::stat(path->constData(), &info) != 0) {
-        return FailureAt(*path, errno);
-    }
-    if ((info.st_mode & S_IWUSR) == 0 && ::chmod(path->constData(), (info.st_mode & 07777) | S_IWUSR) != 0) {
-        return FailureOf(errno);
-    }
-    // Looked up first, since a file of somebody else refuses a removal even where there is nothing to remove.
-    const char* const marks = "user.DOSATTRIB";
-    const bool isMarked = ::getxattr(path->constData(), marks, nullptr, 0) >= 0;
-    return isMarked && ::removexattr(path->constData(), marks) != 0 ? FailureOf(errno) : Status();
+    return SetAttr(folder + name, 0);
 }
 
 Status CreateFolder(const QString& path)

@@ -19,16 +19,6 @@ TEST_F(Starts, FilesHandedOverAreTheMainListAllChecked)
     EXPECT_TRUE(state.CheckedCount == 3 && state.FileListChanged && !state.DropStart);
 }
 
-TEST_F(Starts, Line23OfTheSettingsTellsWhetherADropAsks)
-{
-    EXPECT_EQ(app::ReadSettings(programFolder).ShowRenameDrop, 0) << "no file";
-    for (const auto& [rest, value] : std::initializer_list<std::pair<QByteArray, int>>{
-             {"1\r\n0\r\n", 1}, {"0\r\n1\r\n", 0}, {"1", 1}, {" 1 \n", 1}, {"x\r\n", 0}, {"", 0}}) {
-        program.Write(u"Quillmark.ini"_qs, QByteArray("1\r\n").repeated(22) + rest);
-        EXPECT_EQ(app::ReadSettings(programFolder).ShowRenameDrop, value) << rest.constData();
-    }
-}
-
 TEST_F(Starts, TheExtensionForAllReachesADrop)
 {
     Files({u"one.txt"_qs});
@@ -38,7 +28,7 @@ TEST_F(Starts, TheExtensionForAllReachesADrop)
     for (const auto& [line, name] : {std::pair("True", u"one.txt"_qs), std::pair("1", u"one.bak"_qs)}) {
         program.Write(u"Quillmark.ini"_qs, QByteArray("\r\n").repeated(9) + line + "\r\nbak\r\n");
         options = {};
-        app::ApplySettings(app::ReadSettings(programFolder), state, options);
+        app::ReadSettings(programFolder, state, options);
         app::PrepareDrop({recipe, folder.Path() + u"one.txt"_qs}, workspace, mainList, state);
         EXPECT_EQ(workspace.grid.Cell(1, workspace::GridPre::Preview), name) << line;
     }

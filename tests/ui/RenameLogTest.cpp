@@ -62,7 +62,7 @@ TEST(RenameLog, OpensAfterARunWithItsFailuresInRedAndClosesOnEscape)
         log.resize(width, 400);
         EXPECT_TRUE(QTest::qWaitFor([&] { return grid.viewport()->width() > width - 60; }));
         for (int column = 0; column < 4; ++column) {
-            EXPECT_NEAR(grid.columnWidth(column), grid.viewport()->width() / 4, 4) << column;
+            EXPECT_NEAR(grid.columnWidth(column), grid.viewport()->width() / 4.0, 4) << column;
         }
     }
     const QImage picture = grid.viewport()->grab().toImage();

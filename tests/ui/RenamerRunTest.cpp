@@ -165,11 +165,7 @@ TEST(RenamerRun, ValidationPaintsTheCellsInTheLegendsColours)
 
 TEST(RenamerWindow, LeavesByExitOnlyAndClearsTheStopFlagWhenItIsActivated)
 {
-    int closed = 0;
-    const auto count = [&closed] {
-        ++closed;
-    };
-    Desk desk({}, {{}, {}, {}, count});
+    Desk desk;
     QCloseEvent fromTitleBar;
     QSpontaneKeyEvent::setSpontaneous(&fromTitleBar);
     qApp->notify(&desk.window, &fromTitleBar);
@@ -177,7 +173,6 @@ TEST(RenamerWindow, LeavesByExitOnlyAndClearsTheStopFlagWhenItIsActivated)
     EXPECT_TRUE(desk.window.isVisible());
     desk.Click("cmdClose");
     EXPECT_FALSE(desk.window.isVisible());
-    EXPECT_EQ(closed, 1);
     EXPECT_TRUE(desk.state.StopFlag.IsSet());
     QWidget other;
     other.show();
@@ -190,7 +185,7 @@ TEST(RenamerWindow, OnTopIsRememberedAndKeepsTheWindowOnShow)
 {
     Desk desk;
     QTest::keyClick(&desk.Use("chkOnTop"), Qt::Key_Space);
-    EXPECT_EQ(desk.state.OnTopState, 1);
+    EXPECT_EQ(desk.state.OnTopState, windowing::RenamerOnTop);
     EXPECT_TRUE(desk.window.windowFlags() & Qt::WindowStaysOnTopHint);
     EXPECT_TRUE(desk.window.isVisible());
     EXPECT_FALSE(desk.window.windowFlags() & Qt::WindowCloseButtonHint);

@@ -79,23 +79,31 @@ QIcon Drawn(const QPainterPath& shape, const QColor& colour, bool hasCorner)
     return icon;
 }
 
+// The theme's icon, null if it has none. Without a desktop there is only the theme that all others fall back
+// to, which has none of these, and searching it for each takes longer than all the rest.
+QIcon ThemeIcon(const QString& name)
+{
+    const QString theme = QIcon::themeName();
+    return theme.isEmpty() || theme == QLatin1String("hicolor") ? QIcon() : QIcon::fromTheme(name);
+}
+
 QIcon IconOfFile(const QString& name)
 {
     const QMimeType type = QMimeDatabase().mimeTypeForFile(name, QMimeDatabase::MatchExtension);
-    QIcon icon = QIcon::fromTheme(type.iconName());
+    QIcon icon = ThemeIcon(type.iconName());
     if (icon.isNull()) {
-        icon = QIcon::fromTheme(type.genericIconName());
+        icon = ThemeIcon(type.genericIconName());
     }
     return icon.isNull() ? Drawn(PageShape(), ColourOf(type.name()), true) : icon;
 }
 
+} // namespace
+
 QIcon IconOfFolder()
 {
-    const QIcon icon = QIcon::fromTheme(QStringLiteral("folder"));
+    const QIcon icon = ThemeIcon(QStringLiteral("folder"));
     return icon.isNull() ? Drawn(FolderShape(), QColor::fromRgba(FolderColour), false) : icon;
 }
-
-} // namespace
 
 QIcon FileIcons::Of(const model::FileRow& row)
 {

@@ -12,6 +12,8 @@
 
 namespace fileview {
 
+QIcon IconOfFolder();
+
 class FileIcons
 {
 public:

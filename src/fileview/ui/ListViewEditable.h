@@ -91,7 +91,8 @@ public:
     int TopIndex() const;     // the first row in sight
     void SetTopIndex(int row);
 
-    // Widths of columns, which count from 0 here, by their texts or by their headings.
+    // Widths of columns, which count from 0 here: in pixels, by their texts or by their headings.
+    void SetColumnWidth(int Col, int pixels) { table_->setColumnWidth(Col, pixels); }
     void ResizeListViewColumn(int Col);
     void ResizeListViewColumnsByText();
     void ResizeListViewHeader(int Col);

@@ -39,6 +39,7 @@ struct ReplaceListWindow::Variant
     std::array<const char*, ReplaceGrid::ColumnCount> heads;
     const QStringList& (*entries)(); // of the combo over a cell
     actions::ReplaceRows& (*rows)(actions::RenameOptions&);
+    windowing::OnTopValue onTop;
     bool hasSingleValue; // Check2 and cmbExtAll: one value for all extensions
 };
 
@@ -59,12 +60,14 @@ const ReplaceListWindow::Variant& ReplaceListWindow::VariantOf(ReplaceListKind k
          {matchCase, from, to},
          actions::ValueEntries,
          rowsOfNames,
+         windowing::ReplaceListOnTop,
          false},
         {QLatin1String("frmExtReplace"),
          QT_TR_NOOP("Replace File Extensions"),
          {matchCase, from, to},
          actions::ExtensionEntries,
          rowsOfExtensions,
+         windowing::ExtensionListOnTop,
          true},
         // Pairs of a tag and its new value; the flag's column has no heading.
         {QLatin1String("frmExifReplace"),
@@ -72,13 +75,14 @@ const ReplaceListWindow::Variant& ReplaceListWindow::VariantOf(ReplaceListKind k
          {"", QT_TR_NOOP("Exif Tag"), QT_TR_NOOP("Change To")},
          actions::ExifChangeEntries,
          rowsOfNames,
+         windowing::ReplaceListOnTop,
          false},
     }};
     return variants[static_cast<std::size_t>(kind)];
 }
 
 ReplaceListWindow::ReplaceListWindow(ReplaceListKind kind, actions::RenameOptions& options, Pickers& pickers,
-                                     QWidget* parent)
+                                     windowing::OnTopGroup& onTop, QWidget* parent)
     : QWidget(parent, Qt::Window),
       variant_(VariantOf(kind)),
       options_(options),
@@ -88,7 +92,7 @@ ReplaceListWindow::ReplaceListWindow(ReplaceListKind kind, actions::RenameOption
     setObjectName(variant_.name);
     setWindowTitle(tr(variant_.title));
     auto* column = new QVBoxLayout(this);
-    AddMarkRow(*column);
+    AddMarkRow(*column, onTop);
     if (variant_.hasSingleValue) {
         AddSingleValue(*column);
     }
@@ -107,7 +111,7 @@ ReplaceListWindow::~ReplaceListWindow()
     delete table_; // before its rows
 }
 
-void ReplaceListWindow::AddMarkRow(QVBoxLayout& column)
+void ReplaceListWindow::AddMarkRow(QVBoxLayout& column, windowing::OnTopGroup& group)
 {
     QHBoxLayout& row = AddRow(column);
     markAll_ = NewCheckBox(QLatin1String("Check1"), {});
@@ -124,7 +128,7 @@ void ReplaceListWindow::AddMarkRow(QVBoxLayout& column)
     QCheckBox* onTop = NewCheckBox(QLatin1String("chkOnTop"), tr("On Top"));
     onTop->setToolTip(tr("Select to make this window topmost."));
     row.addWidget(onTop);
-    connect(onTop, &QCheckBox::toggled, this, [this](bool on) { KeepOnTop(*this, on); });
+    group.Join(variant_.onTop, *this, *onTop);
 }
 
 void ReplaceListWindow::AddSingleValue(QVBoxLayout& column)

@@ -7,6 +7,7 @@
 #pragma once
 
 #include "actions/RenameOptions.h"
+#include "windowing/OnTopGroup.h"
 #include "workspace/ReplaceGrid.h"
 
 #include <QWidget>
@@ -29,9 +30,9 @@ class ReplaceListWindow final : public QWidget
     Q_OBJECT
 
 public:
-    // A window of its own, hidden. `options` and `pickers` outlive it.
+    // A window of its own, hidden. The references outlive it.
     ReplaceListWindow(ReplaceListKind kind, actions::RenameOptions& options, Pickers& pickers,
-                      QWidget* parent = nullptr);
+                      windowing::OnTopGroup& onTop, QWidget* parent = nullptr);
     ~ReplaceListWindow() override;
 
     // Puts the window on show with what the options hold now. If it is on show already, it comes to the front
@@ -45,7 +46,7 @@ private:
     struct Variant;
     static const Variant& VariantOf(ReplaceListKind kind);
 
-    void AddMarkRow(QVBoxLayout& column);
+    void AddMarkRow(QVBoxLayout& column, windowing::OnTopGroup& onTop);
     void AddSingleValue(QVBoxLayout& column);
     void AddCommandRow(QVBoxLayout& column);
     QPushButton* AddCommand(QHBoxLayout& row, QLatin1String name, const QString& caption,

@@ -23,8 +23,14 @@ void WindowHost::SetProgressMaximum(int maximum)
 
 void WindowHost::SetProgressValue(int value)
 {
-    if (controls_.progress && value <= controls_.progress->maximum()) {
-        controls_.progress->setValue(value);
+    QProgressBar* const bar = controls_.progress;
+    if (!bar || value > bar->maximum()) {
+        return;
+    }
+    // A bar doesn't show finer steps, and each takes longer than a row of most runs.
+    const int step = qMax(1, bar->maximum() / 500);
+    if (value == 0 || value == bar->maximum() || qAbs(value - bar->value()) >= step) {
+        bar->setValue(value);
     }
 }
 

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 //
-// Where windows stand: in front, above all others, in the middle of the window that they belong to.
+// Where windows come up: in front, in the middle of the window that they belong to or of the screen.
 #pragma once
 
+#include <QScreen>
 #include <QWidget>
 
 namespace workspace {
@@ -19,12 +20,12 @@ inline void BringUp(QWidget& window)
     window.activateWindow();
 }
 
-// Keeps a window above all others, or no longer. It stays on show or hidden as it was.
-inline void KeepOnTop(QWidget& window, bool onTop)
+// Moves a window to the middle of its screen; one that is larger begins at the screen's upper left corner.
+inline void CentreOnScreen(QWidget& window)
 {
-    const bool wasVisible = window.isVisible();
-    window.setWindowFlag(Qt::WindowStaysOnTopHint, onTop); // which hides the window
-    window.setVisible(wasVisible);
+    const QRect screen = window.screen()->availableGeometry();
+    const QPoint centred = screen.center() - window.rect().center();
+    window.move(qMax(screen.left(), centred.x()), qMax(screen.top(), centred.y()));
 }
 
 } // namespace workspace

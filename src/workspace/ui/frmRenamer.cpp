@@ -56,6 +56,7 @@ frmRenamer::frmRenamer(RenameWorkspace& workspace, model::AppState& state, model
       workspace_(workspace),
       state_(state),
       random_(random),
+      ownOnTop_(state),
       collaborators_(std::move(collaborators)),
       pickers_(state, random)
 {
@@ -123,9 +124,7 @@ QWidget* frmRenamer::NewCommandRow()
     AddCommand(row, QLatin1String("cmdLog"), tr("Rename &Log"), &frmRenamer::cmdLog_Click);
     row.addStretch(1);
     auto* onTop = NewCheckBox(QLatin1String("chkOnTop"), tr("On Top"));
-    onTop->setChecked(state_.OnTopState == 1);
-    setWindowFlag(Qt::WindowStaysOnTopHint, onTop->isChecked());
-    connect(onTop, &QCheckBox::toggled, this, &frmRenamer::SetOnTop);
+    OnTop().Join(windowing::RenamerOnTop, *this, *onTop);
     row.addWidget(onTop);
     return area;
 }
@@ -290,10 +289,9 @@ void frmRenamer::OpenOriginal(int row)
     QDesktopServices::openUrl(QUrl::fromEncoded("file://" + path.toPercentEncoding("/")));
 }
 
-void frmRenamer::SetOnTop(bool onTop)
+windowing::OnTopGroup& frmRenamer::OnTop()
 {
-    state_.OnTopState = onTop ? 1 : 0;
-    KeepOnTop(*this, onTop);
+    return collaborators_.onTop ? *collaborators_.onTop : ownOnTop_;
 }
 
 void frmRenamer::cmdPreview_Click()
@@ -312,6 +310,9 @@ void frmRenamer::cmdExecute_Click()
 {
     const bool done = workspace_.cmdExecute_Click();
     workspace_.grid.AnnounceChanges();
+    if (done && collaborators_.renamed) {
+        collaborators_.renamed();
+    }
     if (done && state_.ShowRenameLog == 1) {
         cmdLog_Click();
     } else if (log_ && log_->isVisible()) {
@@ -376,15 +377,12 @@ void frmRenamer::cmdClose_Click()
         }
     }
     hide();
-    if (collaborators_.closed) {
-        collaborators_.closed();
-    }
 }
 
 void frmRenamer::OpenReplaceList(ReplaceListWindow*& window, ReplaceListKind kind)
 {
     if (!window) {
-        window = new ReplaceListWindow(kind, workspace_.options, pickers_, this);
+        window = new ReplaceListWindow(kind, workspace_.options, pickers_, OnTop(), this);
     }
     window->Open();
 }

@@ -11,6 +11,7 @@
 #include "model/AppState.h"
 #include "model/Ports.h"
 #include "platform/Result.h"
+#include "windowing/OnTopGroup.h"
 #include "workspace/RenameWorkspace.h"
 #include "workspace/ui/Binding.h"
 #include "workspace/ui/Pickers.h"
@@ -44,7 +45,8 @@ public:
         std::function<platform::Status(const QString& path)> createDrop; // writes a rename drop to `path`
         std::function<void()> manage;                                    // opens the manager of recipes
         std::function<void()> fileSelection;                             // shows the main window
-        std::function<void()> closed;                                    // the window was hidden by Exit
+        std::function<void()> renamed;          // a run has ended; the main list is up to date
+        windowing::OnTopGroup* onTop = nullptr; // the windows that switch each other's marks off
     };
 
     // The references outlive the window. Clears StopFlag.
@@ -73,7 +75,7 @@ private:
 
     void ShowCurrentPanel();
     void OpenOriginal(int row);
-    void SetOnTop(bool onTop);
+    windowing::OnTopGroup& OnTop();
     void OpenReplaceList(ReplaceListWindow*& window, ReplaceListKind kind);
 
     // The commands of the buttons, by their names.
@@ -94,6 +96,7 @@ private:
     RenameWorkspace& workspace_;
     model::AppState& state_;
     model::RandomSource& random_;
+    windowing::OnTopGroup ownOnTop_; // where nobody gave one
     Collaborators collaborators_;
     Binder binder_;
     Pickers pickers_;

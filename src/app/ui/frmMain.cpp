@@ -1,0 +1,720 @@
+// SPDX-License-Identifier: MIT
+#include "app/ui/frmMain.h"
+
+#include "app/FileListFile.h"
+#include "app/ui/frmBookmarks.h"
+#include "app/ui/frmHelp.h"
+#include "app/ui/frmListMan.h"
+#include "app/ui/frmPref.h"
+#include "attributes/ui/frmAttr.h"
+#include "platform/Conversions.h"
+#include "platform/TextFile.h"
+#include "windowing/AutoSizeCombo.h"
+#include "workspace/ui/Fields.h"
+#include "workspace/ui/FileDialogs.h"
+#include "workspace/ui/Mnemonics.h"
+#include "workspace/ui/WindowPlace.h"
+
+#include <QApplication>
+#include <QBoxLayout>
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QDir>
+#include <QGroupBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLocale>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QSplitter>
+#include <QTableView>
+#include <QTimer>
+
+#include <chrono>
+
+namespace app {
+
+namespace {
+
+constexpr int TwipsPerPixel = 15;
+constexpr int LeastWidth = 10'500; // twips
+constexpr int LeastHeight = 9'900;
+
+// Shares of the list's width in percent, by column.
+constexpr std::array ColumnShares{25, 25, 10, 20, 20};
+
+// The commands of the menus, by the numbers under which they have always been known.
+enum Command {
+    Quit = 1029,
+    RefreshFolders = 1030,
+    ViewReport = 1031,
+    ViewIcons = 1032,
+    ViewList = 1033,
+    OpenPreferences = 1035,
+    OpenReadme = 1039,
+    About = 1040,
+    Rename = 1043,
+    SaveSettings = 1047,
+    Attributes = 1052,
+    LoadList = 2001, // not numbered before
+    SaveList = 2002,
+};
+
+struct MenuCommand
+{
+    const char* menu;
+    int id;
+    const char* text;
+    const char* keys = "";
+};
+
+constexpr std::array MenuCommands{
+    MenuCommand{QT_TR_NOOP("&File"), Rename, QT_TR_NOOP("&Rename..."), "F2"},
+    MenuCommand{QT_TR_NOOP("&File"), Attributes, QT_TR_NOOP("&Attributes...")},
+    MenuCommand{QT_TR_NOOP("&File"), RefreshFolders, QT_TR_NOOP("Re&fresh Folders"), "F5"},
+    MenuCommand{QT_TR_NOOP("&File"), SaveSettings, QT_TR_NOOP("&Save Settings")},
+    MenuCommand{QT_TR_NOOP("&File"), Quit, QT_TR_NOOP("&Quit"), "Ctrl+Q"},
+    MenuCommand{QT_TR_NOOP("File&List"), LoadList, QT_TR_NOOP("&Load File List")},
+    MenuCommand{QT_TR_NOOP("File&List"), SaveList, QT_TR_NOOP("&Save File List")},
+    MenuCommand{QT_TR_NOOP("&View"), ViewReport, QT_TR_NOOP("&Report"), "Ctrl+1"},
+    MenuCommand{QT_TR_NOOP("&View"), ViewIcons, QT_TR_NOOP("&Icons"), "Ctrl+2"},
+    MenuCommand{QT_TR_NOOP("&View"), ViewList, QT_TR_NOOP("&List"), "Ctrl+3"},
+    MenuCommand{QT_TR_NOOP("&Tools"), OpenPreferences, QT_TR_NOOP("&Preferences...")},
+    MenuCommand{QT_TR_NOOP("&Help"), OpenReadme, QT_TR_NOOP("&Readme"), "F1"},
+    MenuCommand{QT_TR_NOOP("&Help"), About, QT_TR_NOOP("&About")},
+};
+
+struct ViewMode
+{
+    int command;
+    int view;
+    QLatin1String name; // as it is stored
+};
+
+constexpr std::array ViewModes{
+    ViewMode{ViewReport, fileview::lvwReport, QLatin1String("Report")},
+    ViewMode{ViewIcons, fileview::lvwSmallIcon, QLatin1String("Icons")},
+    ViewMode{ViewList, fileview::lvwList, QLatin1String("List")},
+};
+
+workspace::DocumentKind FileListKind()
+{
+    return {frmMain::tr("List (*.lst)"), QStringLiteral("lst")};
+}
+
+} // namespace
+
+frmMain::frmMain(const Surroundings& surroundings, Collaborators collaborators)
+    : state_(surroundings.state),
+      rows_(surroundings.rows),
+      host_(surroundings.host),
+      options_(surroundings.options),
+      programFolder_(surroundings.programFolder),
+      onTop_(surroundings.onTop),
+      collaborators_(std::move(collaborators)),
+      lvw2_(new fileview::ListViewEditable(rows_, host_, state_, this)),
+      gathering_({rows_, lvw2_->Scanned(), lvw2_->FileScanner()}, state_, host_, *this)
+{
+    setObjectName(QStringLiteral("frmMain"));
+    setWindowTitle(tr("Quillmark"));
+    setMinimumSize(LeastWidth / TwipsPerPixel, LeastHeight / TwipsPerPixel);
+    resize(960, 720);
+    ApplySkin();
+    MakeMenus();
+    auto* panes = new QSplitter(this);
+    panes->setObjectName(QStringLiteral("panes"));
+    panes->addWidget(NewFolderPane());
+    panes->addWidget(NewListPane());
+    panes->setStretchFactor(1, 1);
+    panes->setChildrenCollapsible(false);
+    panes->setSizes({260, 700});
+    QWidget* const bottom = NewBottomPane();
+    notWhileScanning_.push_back(panes);
+    ConnectList();
+
+    // The panes hang on the window's edges.
+    const int menuHeight = menus_->sizeHint().height();
+    const int bottomHeight = bottom->sizeHint().height();
+    menus_->setGeometry(0, 0, width(), menuHeight);
+    panes->setGeometry(0, menuHeight, width(), height() - menuHeight - bottomHeight);
+    bottom->setGeometry(0, height() - bottomHeight, width(), bottomHeight);
+    menus_->setProperty("Tag", QStringLiteral("TTTF*/"));
+    panes->setProperty("Tag", QStringLiteral("TTTT*/"));
+    bottom->setProperty("Tag", QStringLiteral("TFTT*/"));
+
+    onTop_.Join(windowing::MainOnTop, *this, *chkOnTop_);
+    workspace::AssignMnemonics(*this);
+    ftv_->setFocus();
+    host_.Attach({this, Label10_, ProgBarM_, nullptr, nullptr});
+}
+
+frmMain::~frmMain() = default;
+
+// A style sheet beside the program takes the place of a skin.
+void frmMain::ApplySkin()
+{
+    const auto lines = platform::ReadLines(programFolder_.PathOf(QStringLiteral("Quillmark.qss")));
+    if (lines) {
+        qApp->setStyleSheet(lines->join(u'\n'));
+    }
+}
+
+void frmMain::MakeMenus()
+{
+    menus_ = new QMenuBar(this);
+    menus_->setNativeMenuBar(false);
+    std::map<QString, QMenu*> menus;
+    for (const MenuCommand& command : MenuCommands) {
+        QMenu*& menu = menus[tr(command.menu)];
+        if (!menu) {
+            menu = menus_->addMenu(tr(command.menu));
+        }
+        QAction* const action =
+            menu->addAction(tr(command.text), this, [this, id = command.id] { RunCommand(id); });
+        action->setShortcut(QKeySequence(QLatin1String(command.keys)));
+        action->setObjectName(QStringLiteral("command%1").arg(command.id));
+        commands_[command.id] = action;
+    }
+    for (const ViewMode& mode : ViewModes) {
+        commands_[mode.command]->setCheckable(true);
+    }
+}
+
+void frmMain::RunCommand(int id)
+{
+    switch (id) {
+    case Quit:
+        cmdQuit_Click();
+        break;
+    case RefreshFolders:
+        Command2_Click();
+        break;
+    case ViewReport:
+    case ViewIcons:
+    case ViewList:
+        SetViewMode(id);
+        break;
+    case OpenPreferences:
+        cmdPref_Click();
+        break;
+    case OpenReadme:
+        ShowHelp();
+        break;
+    case About:
+        ShowAbout();
+        break;
+    case Rename:
+        cmdRename_Click();
+        break;
+    case SaveSettings:
+        SaveSettingsFile();
+        Log(QStringLiteral("Settings Saved."));
+        break;
+    case Attributes:
+        Command1_Click();
+        break;
+    case LoadList:
+        mnuFLoad_Click();
+        break;
+    case SaveList:
+        mnuFSave_Click();
+        break;
+    default:
+        break;
+    }
+}
+
+QPushButton* frmMain::AddButton(QBoxLayout& row, const char* name, const QString& caption,
+                                const QString& tooltip, void (frmMain::*command)())
+{
+    auto* button = new QPushButton(caption, this);
+    button->setObjectName(QLatin1String(name));
+    button->setToolTip(tooltip);
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, command);
+    row.addWidget(button);
+    return button;
+}
+
+QCheckBox* frmMain::AddBox(QBoxLayout& row, const char* name, const QString& caption, const QString& tooltip)
+{
+    auto* box = new QCheckBox(caption, this);
+    box->setObjectName(QLatin1String(name));
+    box->setToolTip(tooltip);
+    row.addWidget(box);
+    return box;
+}
+
+QWidget* frmMain::NewFolderPane()
+{
+    auto* pane = new QWidget(this);
+    auto* column = new QVBoxLayout(pane);
+    column->setContentsMargins(9, 6, 3, 3);
+    ftv_ = new FolderTree(pane);
+    ftv_->setObjectName(QStringLiteral("ftv"));
+    ftv_->setAccessibleName(tr("Folders"));
+    ftv_->setToolTip(tr("Select drawing folder(s)"));
+    connect(ftv_, &FolderTree::FolderSelected, this,
+            [this](const QString& folder) { gathering_.FolderSelected(folder); });
+    connect(ftv_, &FolderTree::FolderChecked, this,
+            [this](const QString& folder, bool checked) { gathering_.FolderChecked(folder, checked); });
+    column->addWidget(ftv_, 1);
+    Check2_ = AddBox(*column, "Check2", tr("&Search Subfolders"), {});
+    Check6_ = AddBox(*column, "Check6", tr("Multiple Folder Select Mode"), {});
+    auto* row = new QHBoxLayout;
+    AddButton(*row, "Command2", tr("Re&fresh Folders"),
+              tr("Click to Refresh folder view in case of addition/deletion of folder(s)."),
+              &frmMain::Command2_Click);
+    AddButton(*row, "cmdBookmarks", tr("BookMarks"), tr("Manage/Load Your Bookmarks"),
+              &frmMain::cmdBookmarks_Click);
+    Command5_ = AddButton(*row, "Command5", QStringLiteral("+"), tr("Add Selected Folder to BookMarks"),
+                          &frmMain::Command5_Click);
+    column->addLayout(row);
+    connect(Check2_, &QCheckBox::toggled, this, [this](bool on) {
+        const QCursor pointer = cursor();
+        setCursor(Qt::WaitCursor);
+        gathering_.SearchSubfolders(on);
+        setCursor(pointer);
+    });
+    connect(Check6_, &QCheckBox::toggled, this, [this](bool on) {
+        {
+            const QSignalBlocker blocker(Check2_);
+            Check2_->setChecked(false);
+        }
+        Check2_->setEnabled(!on);
+        ftv_->SetCheckBoxes(on);
+        gathering_.SetMultipleFolders(on);
+    });
+    return pane;
+}
+
+QWidget* frmMain::NewListPane()
+{
+    auto* pane = new QWidget(this);
+    auto* column = new QVBoxLayout(pane);
+    column->setContentsMargins(3, 6, 9, 3);
+    auto* filters = new QHBoxLayout;
+    QGroupBox* types = workspace::NewFrame(QLatin1String("FrameType"), tr("File Type"));
+    cmbFileType_ = new QComboBox(types);
+    cmbFileType_->setObjectName(QStringLiteral("cmbFileType"));
+    cmbFileType_->setAccessibleName(tr("File Type"));
+    cmbFileType_->setMinimumContentsLength(18);
+    workspace::PassWheelWithoutFocus(*cmbFileType_);
+    workspace::ColumnOf(*types).addWidget(cmbFileType_);
+    filters->addWidget(types);
+    QGroupBox* names = workspace::NewFrame(QLatin1String("FrameFilter"), tr("Filter Filenames"));
+    txtFilter_ = workspace::NewBox(QStringLiteral("txtFilter"), 0, tr("Filter Filenames"));
+    txtFilter_->setToolTip(tr("Filter select files"));
+    workspace::ColumnOf(*names).addWidget(txtFilter_);
+    filters->addWidget(names, 1);
+    column->addLayout(filters);
+
+    lvw2_->setParent(pane);
+    lvw2_->setObjectName(QStringLiteral("lvw2"));
+    lvw2_->ListView().setToolTip(tr("File view window with drag-drop. Right click for options."));
+    lvw2_->SetEmptyText(tr("No files here"));
+    column->addWidget(lvw2_, 1);
+
+    auto* counts = new QHBoxLayout;
+    Check1_ = AddBox(*counts, "Check1", tr("Check All"), tr("Check all files in File view"));
+    counts->addSpacing(12);
+    auto* hint = workspace::NewHint(tr("Right Click fileview for options"));
+    hint->setObjectName(QStringLiteral("Label2"));
+    hint->setWordWrap(false);
+    counts->addWidget(hint);
+    counts->addStretch(1);
+    txtPlot_ = workspace::NewBox(QStringLiteral("txtPlot"), 7, tr("Number of files"));
+    txtPlot_->setReadOnly(true);
+    txtPlot_->setAlignment(Qt::AlignRight);
+    counts->addWidget(txtPlot_);
+    auto* items = new QLabel(tr("items"), pane);
+    items->setObjectName(QStringLiteral("Label4"));
+    counts->addWidget(items);
+    column->addLayout(counts);
+    return pane;
+}
+
+QWidget* frmMain::NewBottomPane()
+{
+    auto* pane = new QWidget(this);
+    pane->setObjectName(QStringLiteral("bottom"));
+    auto* column = new QVBoxLayout(pane);
+    column->setContentsMargins(9, 3, 9, 6);
+    auto* buttons = new QHBoxLayout;
+    notWhileScanning_ = {
+        AddButton(*buttons, "cmdRename", tr("&Rename"), tr("Click to bring up the Renamer Window"),
+                  &frmMain::cmdRename_Click),
+        AddButton(*buttons, "Command1", tr("&Attributes"), tr("Click to Change Attributes."),
+                  &frmMain::Command1_Click),
+        AddButton(*buttons, "Command8", tr("Filelists"), tr("Manage/Load Your File Lists"),
+                  &frmMain::Command8_Click),
+        AddButton(*buttons, "cmdPref", tr("Preferences"), tr("Set the Options"), &frmMain::cmdPref_Click),
+    };
+    cmdStopSrch_ = AddButton(*buttons, "cmdStopSrch", tr("S&top Search"),
+                             tr("Click to Stop Searching the Subfolders."), &frmMain::cmdStopSrch_Click);
+    buttons->addStretch(1);
+    chkOnTop_ = AddBox(*buttons, "chkOnTop", tr("On Top"), tr("Select to make this window topmost."));
+    AddButton(*buttons, "cmdQuit", tr("&Quit"), tr("Click to Exit "), &frmMain::cmdQuit_Click);
+    column->addLayout(buttons);
+
+    Text2_ = new QPlainTextEdit(pane);
+    Text2_->setObjectName(QStringLiteral("Text2"));
+    Text2_->setAccessibleName(tr("Log"));
+    Text2_->setReadOnly(true);
+    Text2_->setTabChangesFocus(true);
+    Text2_->setFixedHeight(Text2_->fontMetrics().lineSpacing() * 4 + 12);
+    column->addWidget(Text2_);
+
+    auto* status = new QHBoxLayout;
+    Label10_ = new QLabel(QStringLiteral("Ready"), pane);
+    Label10_->setObjectName(QStringLiteral("Label10"));
+    Label10_->setMinimumWidth(fontMetrics().horizontalAdvance(tr("Changing Attributes...")) + 12);
+    ProgBarM_ = new QProgressBar(pane);
+    ProgBarM_->setObjectName(QStringLiteral("ProgBarM"));
+    ProgBarM_->setAccessibleName(tr("Progress"));
+    ProgBarM_->setValue(0);
+    ProgBarM_->setTextVisible(false);
+    Label1_ = new QLabel(pane);
+    Label1_->setObjectName(QStringLiteral("Label1"));
+    status->addWidget(Label10_);
+    status->addWidget(ProgBarM_, 1);
+    status->addSpacing(12);
+    status->addWidget(Label1_);
+    column->addLayout(status);
+    return pane;
+}
+
+void frmMain::ConnectList()
+{
+    using fileview::ListProperties;
+    using fileview::ListViewEditable;
+    lvw2_->Set(&ListProperties::Checkboxes, true);
+    lvw2_->Set(&ListProperties::HideSelection, true);
+    lvw2_->Set(&ListProperties::MultiSelect, false);
+    lvw2_->Set(&ListProperties::AutoPopupMenu, true);
+    connect(lvw2_, &ListViewEditable::Click, this, [this] { gathering_.ListClicked(); });
+    connect(lvw2_, &ListViewEditable::ColumnClick, this, [this] { gathering_.RefreshCheckedCount(); });
+    connect(lvw2_, &ListViewEditable::KeyDown, this, [this] { gathering_.RefreshCheckedCount(); });
+    connect(lvw2_, &ListViewEditable::OLEDragDrop, this, [this] { gathering_.FilesDropped(); });
+    connect(lvw2_, &ListViewEditable::Resize, this, &frmMain::FitColumns);
+    connect(Check1_, &QCheckBox::toggled, this, [this](bool on) {
+        Check1_->setText(on ? tr("Uncheck All") : tr("Check All"));
+        gathering_.CheckAll(on);
+    });
+    connect(cmbFileType_, &QComboBox::activated, this,
+            [this] { gathering_.FilterByType(cmbFileType_->currentText()); });
+    connect(txtFilter_, &QLineEdit::textChanged, this, [this](const QString& text) {
+        txtFilter_->setClearButtonEnabled(true); // only now, since its icon takes long to find
+        gathering_.FilterByName(text);
+    });
+    auto* clock = new QTimer(this);
+    clock->setObjectName(QStringLiteral("Timer1"));
+    connect(clock, &QTimer::timeout, this, &frmMain::TellTime);
+    clock->start(std::chrono::seconds(1));
+    TellTime();
+}
+
+void frmMain::TellTime()
+{
+    const QDateTime now = QDateTime::currentDateTime();
+    Label1_->setText(QLocale::system().toString(now.date(), QStringLiteral("MMM dd, yyyy")) +
+                     QStringLiteral("  ") + platform::DefaultTimeText(now));
+}
+
+void frmMain::FitColumns()
+{
+    // Room for the scroll bar is kept free, or columns of the full width would have one for sideways, too.
+    const int width = lvw2_->width() - 2 * lvw2_->ListView().frameWidth() -
+                      lvw2_->ListView().verticalScrollBar()->sizeHint().width();
+    for (std::size_t column = 0; column < ColumnShares.size(); ++column) {
+        lvw2_->SetColumnWidth(static_cast<int>(column), width * ColumnShares.at(column) / 100);
+    }
+}
+
+void frmMain::Load()
+{
+    const auto* mode = std::find_if(ViewModes.begin(), ViewModes.end(),
+                                    [this](const ViewMode& each) { return state_.ViewMode == each.name; });
+    SetViewMode(mode == ViewModes.end() ? static_cast<int>(ViewReport) : mode->command);
+    chkOnTop_->setChecked(state_.OnTopState == windowing::MainOnTop);
+    ftv_->SetShowsHidden(state_.ShowHiddenFolders == 1);
+    preferences_ = ReadPreferenceControls(programFolder_);
+    state_.SortNamesByMagnitude = preferences_.OptSort1;
+    const QString filter = std::exchange(state_.FileTypeFilter, FileGathering::EveryName);
+    ftv_->SetSelectedFolder(state_.LastFolder);
+    if (ftv_->SelectedFolder().isEmpty()) {
+        ftv_->SetSelectedFolder(QDir::homePath());
+    }
+    if (hasEnded_) {
+        return; // a person quit meanwhile
+    }
+    lvw2_->Set(&fileview::ListProperties::ClearOnDragDrop, state_.ClearOnDragDrop);
+    anchor_ = new windowing::Anchor(*this, QStringLiteral("AnchorCtrl,Positions,frmMain,1110|540"));
+    anchor_->DoInit(LeastHeight, LeastWidth);
+    if (state_.AllSelected == 1) {
+        rows_.SetCheckedAll(true);
+        ShowAllChecked();
+    }
+    state_.CheckedCount = rows_.Count();
+    gathering_.RebuildFileTypes();
+    ChooseType(filter);
+    isLoaded_ = true;
+}
+
+// The type that was stored; every name where there is no such type now.
+void frmMain::ChooseType(const QString& type)
+{
+    const int entry = std::max(0, cmbFileType_->findText(type));
+    cmbFileType_->setCurrentIndex(entry);
+    if (entry > 0) {
+        gathering_.FilterByType(type);
+    }
+}
+
+void frmMain::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    if (anchor_) {
+        anchor_->DoResize();
+    }
+}
+
+void frmMain::closeEvent(QCloseEvent* event)
+{
+    event->setAccepted(hasEnded_);
+    if (!hasEnded_) {
+        cmdQuit_Click();
+    }
+}
+
+void frmMain::cmdQuit_Click()
+{
+    state_.ClosingDown = true;
+    state_.StopFlag.Set(); // a preview that runs in the rename window stops, too
+    if (gathering_.IsScanning()) {
+        gathering_.Stop(); // and EndProgram follows when the scan has come back
+        hide();
+    } else {
+        EndProgram();
+    }
+}
+
+void frmMain::EndProgram()
+{
+    if (std::exchange(hasEnded_, true)) {
+        return;
+    }
+    state_.ClosingDown = true;
+    state_.KeepFileTypes = true;
+    pref_ ? pref_->SaveSettings() : SaveSettingsFile();
+    if (bookmarks_) {
+        bookmarks_->Save();
+    }
+    delete std::exchange(anchor_, nullptr); // which keeps the window's position
+    collaborators_.ended();
+}
+
+void frmMain::ApplyPreferences()
+{
+    lvw2_->Set(&fileview::ListProperties::ClearOnDragDrop, state_.ClearOnDragDrop);
+    ftv_->SetShowsHidden(state_.ShowHiddenFolders == 1);
+}
+
+void frmMain::SaveSettingsFile()
+{
+    // A folder that can't be written to keeps nothing, silently.
+    static_cast<void>(WriteSettings(programFolder_, state_, options_, preferences_, ftv_->SelectedFolder(),
+                                    cmbFileType_->currentText()));
+}
+
+void frmMain::Log(const QString& line)
+{
+    Text2_->appendPlainText(line);
+    Text2_->moveCursor(QTextCursor::End);
+}
+
+// During a scan a person can stop it and quit, and nothing else.
+void frmMain::ScanBegins()
+{
+    focusBeforeScan_ = focusWidget();
+    SetStopStandsOut(true);
+    for (QWidget* widget : notWhileScanning_) {
+        widget->setEnabled(false);
+    }
+    for (const auto& [id, command] : commands_) {
+        command->setEnabled(id == Quit);
+    }
+}
+
+void frmMain::ScanEnds()
+{
+    for (const auto& [id, command] : commands_) {
+        command->setEnabled(true);
+    }
+    for (QWidget* widget : notWhileScanning_) {
+        widget->setEnabled(true);
+    }
+    SetStopStandsOut(false);
+    if (focusBeforeScan_ && focusWidget() != focusBeforeScan_) {
+        focusBeforeScan_->setFocus();
+    }
+}
+
+void frmMain::SetStopStandsOut(bool standsOut)
+{
+    QFont font = cmdStopSrch_->font();
+    font.setBold(standsOut);
+    cmdStopSrch_->setFont(font);
+}
+
+void frmMain::ShowCount(int count)
+{
+    txtPlot_->setText(QString::number(count));
+}
+
+void frmMain::ShowAllChecked()
+{
+    const QSignalBlocker blocker(Check1_);
+    Check1_->setChecked(true);
+    Check1_->setText(tr("Uncheck All"));
+}
+
+void frmMain::ShowFileTypes(const QStringList& types)
+{
+    cmbFileType_->clear();
+    cmbFileType_->addItems(types);
+    cmbFileType_->setCurrentIndex(0);
+    windowing::AutoSizeCombo(*cmbFileType_);
+    const QSignalBlocker blocker(txtFilter_); // the rows are all there again
+    txtFilter_->clear();
+}
+
+void frmMain::RefreshRenameView()
+{
+    if (isLoaded_) {
+        collaborators_.refreshRename();
+    }
+}
+
+void frmMain::SetViewMode(int id)
+{
+    for (const ViewMode& mode : ViewModes) {
+        commands_[mode.command]->setChecked(mode.command == id);
+        if (mode.command == id) {
+            lvw2_->Set(&fileview::ListProperties::View, mode.view);
+            state_.ViewMode = mode.name;
+        }
+    }
+}
+
+void frmMain::cmdRename_Click()
+{
+    collaborators_.showRename();
+}
+
+void frmMain::cmdStopSrch_Click()
+{
+    gathering_.Stop();
+}
+
+void frmMain::cmdPref_Click()
+{
+    if (!pref_) {
+        pref_ = new frmPref(state_, preferences_, programFolder_,
+                            {
+                                .apply = [this] { ApplyPreferences(); },
+                                .write = [this] { SaveSettingsFile(); },
+                            },
+                            this);
+    }
+    pref_->Open();
+}
+
+frmBookmarks& frmMain::Bookmarks()
+{
+    if (!bookmarks_) {
+        bookmarks_ = new frmBookmarks(
+            state_, programFolder_, [this](const QString& folder) { ftv_->SetSelectedFolder(folder); },
+            onTop_, this);
+    }
+    return *bookmarks_;
+}
+
+void frmMain::cmdBookmarks_Click()
+{
+    workspace::BringUp(Bookmarks());
+}
+
+void frmMain::Command5_Click()
+{
+    if (ftv_->SelectedFolder().isEmpty()) {
+        return;
+    }
+    Bookmarks().Add(ftv_->SelectedFolder(), *Command5_);
+}
+
+void frmMain::Command1_Click()
+{
+    if (!attributes_) {
+        attributes_ = new attributes::frmAttr(
+            rows_, [this] { return gathering_.CountOfLVW(); }, host_, this);
+    }
+    attributes_->Open();
+}
+
+void frmMain::Command2_Click()
+{
+    ftv_->RefreshFolders();
+}
+
+void frmMain::Command8_Click()
+{
+    if (!lists_) {
+        lists_ = new frmListMan(
+            gathering_, programFolder_, [this] { return cmbFileType_->currentText(); }, this);
+    }
+    lists_->Open();
+}
+
+void frmMain::mnuFSave_Click()
+{
+    const auto path = workspace::AskWhereToSave(*this, tr("Save File List"), FileListKind());
+    if (!path) {
+        return;
+    }
+    gathering_.RefreshCheckedCount();
+    if (const auto status = SaveFileList(*path, rows_); !status.IsOk()) {
+        host_.ShowError(status.Description());
+    }
+}
+
+void frmMain::mnuFLoad_Click()
+{
+    const auto path = workspace::AskWhatToLoad(*this, tr("Load File List"), FileListKind());
+    if (path && !gathering_.LoadList(*path)) {
+        QMessageBox::information(this, tr("Tarnwick"), tr("Invalid File"));
+    }
+}
+
+void frmMain::ShowHelp()
+{
+    if (!help_) {
+        help_ = new frmHelp(this);
+    }
+    workspace::BringUp(*help_);
+}
+
+void frmMain::ShowAbout()
+{
+    QMessageBox::about(this, tr("About Quillmark"),
+                       tr("<h3>Quillmark</h3><p>For Files and Folders</p><p>Version 1.1.0</p>"));
+}
+
+} // namespace app
