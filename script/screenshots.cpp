@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 //
-// Writes the pictures of the documentation: the rename workspace with each panel, and the windows around it.
+// Writes the pictures of the documentation: the main window, the rename workspace with each panel, and the
+// windows around them.
 // What they show is made up here, in a temporary folder, and is the same each time; only the examples in the
 // format pickers are of the day.
 //
 //   quillmark_screenshots FOLDER [--dark] [--size 800x600]
 //
 // QT_SCALE_FACTOR=2 gives them as on a screen of 200 percent.
+#include "app/ui/Windows.h"
+#include "app/ui/frmSplash.h"
 #include "documents/ui/frmRenDrop.h"
 #include "documents/ui/frmRenListMan.h"
 #include "fileview/ui/ListViewEditable.h"
@@ -19,11 +22,17 @@
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
+#include <QLabel>
+#include <QListWidget>
 #include <QLocale>
 #include <QMouseEvent>
+#include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTextStream>
+
+#include <memory>
 
 namespace {
 
@@ -55,6 +64,17 @@ QPalette DarkPalette()
     dark.setColor(QPalette::Highlight, QColor(0x3d, 0x7e, 0xc8));
     dark.setColor(QPalette::HighlightedText, Qt::white);
     return dark;
+}
+
+void Save(QWidget& window, const QString& folder, const QString& name)
+{
+    window.show();
+    QCoreApplication::processEvents();
+    const QString path = folder + QLatin1Char('/') + name + QLatin1String(".png");
+    if (!window.grab().save(path)) {
+        QTextStream(stderr) << "Can't write " << path << '\n';
+        std::exit(1);
+    }
 }
 
 // A workspace with sample rows, and its window.
@@ -264,16 +284,7 @@ private:
         window_.ShowOptions();
     }
 
-    void Shoot(QWidget& window, const QString& name)
-    {
-        window.show();
-        QCoreApplication::processEvents();
-        const QString path = outFolder_ + QLatin1Char('/') + name + QLatin1String(".png");
-        if (!window.grab().save(path)) {
-            QTextStream(stderr) << "Can't write " << path << '\n';
-            std::exit(1);
-        }
-    }
+    void Shoot(QWidget& window, const QString& name) { Save(window, outFolder_, name); }
 
     QString outFolder_;
     QTemporaryDir folder_;
@@ -290,6 +301,93 @@ private:
                                   {[](const QString&) { return platform::Status(); }, [] {}, [] {},
                                    [] {
                                    }}};
+};
+
+// The main window over a made-up home, and the windows that it opens.
+class MainStudio
+{
+public:
+    MainStudio(QString outFolder, const QSize& size) : outFolder_(std::move(outFolder))
+    {
+        const QString pictures = home_.path() + QStringLiteral("/Pictures/Lisbon/");
+        QDir().mkpath(pictures);
+        QDir().mkpath(home_.path() + QStringLiteral("/Pictures/Porto"));
+        QDir().mkpath(home_.path() + QStringLiteral("/Music"));
+        for (const QString& name : SampleNames) {
+            QFile file(pictures + name);
+            file.open(QIODevice::WriteOnly);
+            file.resize(2'000'000 + name.size() * 31'000);
+            file.setFileTime(QDateTime(QDate(2024, 6, 12), QTime(10, 20, static_cast<int>(name.size()))),
+                             QFileDevice::FileModificationTime);
+        }
+        qputenv("HOME", home_.path().toLocal8Bit());
+        qputenv("XDG_CONFIG_HOME", home_.path().toLocal8Bit());
+        Write(QStringLiteral("/bookmarks.bks"),
+              {QStringLiteral("Holidays"), pictures, QStringLiteral("Bookmark 1"),
+               home_.path() + QStringLiteral("/Music")});
+        Write(QStringLiteral("/Quillmark.ini"), {pictures, QStringLiteral("allselected")});
+        windows_ = std::make_unique<app::Windows>(platform::ProgramFolder(home_.path()), QString(), [] {});
+        Main().resize(size);
+    }
+
+    void ShootAll()
+    {
+        HidePaths();
+        Shoot(Main(), QStringLiteral("frmMain"));
+        for (const auto& [button, window] :
+             {std::pair("cmdPref", "frmPref"), std::pair("cmdBookmarks", "frmBookmarks"),
+              std::pair("Command5", "frmBName"), std::pair("Command8", "frmListMan"),
+              std::pair("Command1", "frmAttr")}) {
+            Main().findChild<QPushButton*>(QLatin1String(button))->click();
+            HidePaths();
+            Shoot(*Main().findChild<QWidget*>(QLatin1String(window)), QLatin1String(window));
+        }
+        Main().findChild<QTabWidget*>(QStringLiteral("SSTab1"))->setCurrentIndex(1);
+        Shoot(*Main().findChild<QWidget*>(QStringLiteral("frmPref")), QStringLiteral("frmPref-view"));
+        Main().findChild<QAction*>(QStringLiteral("command1039"))->trigger();
+        Shoot(*Main().findChild<QWidget*>(QStringLiteral("frmHelp")), QStringLiteral("frmHelp"));
+        app::frmSplash splash;
+        splash.adjustSize();
+        Shoot(splash, QStringLiteral("frmSplash"));
+    }
+
+private:
+    app::frmMain& Main() { return windows_->Main(); }
+
+    void Write(const QString& name, const QStringList& lines)
+    {
+        if (!platform::WriteDocument(home_.path() + name, lines).IsOk()) {
+            std::exit(1);
+        }
+    }
+
+    // The temporary folder has another name each time.
+    void HidePaths()
+    {
+        const QString shown = QStringLiteral("/home/lisa");
+        fileview::FileList& rows = Main().findChild<fileview::ListViewEditable*>()->ListItems();
+        for (int row = 1; row <= rows.Count(); ++row) {
+            rows.SetCell(row, fileview::FileList::Path,
+                         QString(rows.Item(row).Path).replace(home_.path(), shown));
+        }
+        auto* const log = Main().findChild<QPlainTextEdit*>(QStringLiteral("Text2"));
+        log->setPlainText(log->toPlainText().replace(home_.path(), shown));
+        log->moveCursor(QTextCursor::End);
+        if (auto* const folders = Main().findChild<QListWidget*>(QStringLiteral("lstBookmarks"))) {
+            for (int row = 0; row < folders->count(); ++row) {
+                folders->item(row)->setText(folders->item(row)->text().replace(home_.path(), shown));
+            }
+        }
+        Main()
+            .findChild<QLabel*>(QStringLiteral("Label1"))
+            ->setText(QStringLiteral("Jun 13, 2024  09:41:00"));
+    }
+
+    void Shoot(QWidget& window, const QString& name) { Save(window, outFolder_, name); }
+
+    QString outFolder_;
+    QTemporaryDir home_;
+    std::unique_ptr<app::Windows> windows_;
 };
 
 } // namespace
@@ -309,13 +407,14 @@ int main(int argc, char** argv)
     if (arguments.contains(QLatin1String("--dark"))) {
         QApplication::setPalette(DarkPalette());
     }
-    Studio studio(arguments[1]);
-    studio.Resize(QSize(1000, 720)); // more than the screen that isn't there
-    const qsizetype size = arguments.indexOf(QLatin1String("--size"));
-    if (size > 0 && size + 1 < arguments.size()) {
-        const QStringList sides = arguments[size + 1].split(QLatin1Char('x'));
-        studio.Resize(QSize(sides.first().toInt(), sides.last().toInt()));
+    QSize size(1000, 720); // more than the screen that isn't there
+    const qsizetype option = arguments.indexOf(QLatin1String("--size"));
+    if (option > 0 && option + 1 < arguments.size()) {
+        const QStringList sides = arguments[option + 1].split(QLatin1Char('x'));
+        size = QSize(sides.first().toInt(), sides.last().toInt());
     }
+    Studio studio(arguments[1]);
+    studio.Resize(size);
     for (const ActionKind kind : model::AllActionKinds) {
         studio.ShootPanel(kind);
     }
@@ -326,5 +425,6 @@ int main(int argc, char** argv)
     studio.ShootDrop();
     studio.ShootManager();
     studio.ShootFileList();
+    MainStudio(arguments[1], size).ShootAll();
     return 0;
 }

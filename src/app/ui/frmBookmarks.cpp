@@ -4,7 +4,6 @@
 #include "app/ui/frmBName.h"
 
 #include <QAction>
-#include <QBoxLayout>
 #include <QListWidget>
 #include <QMenu>
 #include <QMouseEvent>
@@ -20,11 +19,13 @@ frmBookmarks::frmBookmarks(model::AppState& state, const platform::ProgramFolder
 {
     setObjectName(QStringLiteral("frmBookmarks"));
     setWindowTitle(tr("BookMarks"));
-    auto* row = new QHBoxLayout(this);
     lstNames_ = NewList("lstNames", tr("Names"));
     lstBookmarks_ = NewList("lstBookmarks", tr("Folders"));
-    row->addWidget(lstNames_, 1);
-    row->addWidget(lstBookmarks_, 2);
+    // The lists are placed for this size, and scale with the window.
+    resize(540, 320);
+    lstNames_->setGeometry(10, 10, 170, 300);
+    lstBookmarks_->setGeometry(190, 10, 340, 300);
+    resize_.FormResize();
     for (const auto& [from, to] :
          {std::pair(lstNames_, lstBookmarks_), std::pair(lstBookmarks_, lstNames_)}) {
         connect(from, &QListWidget::currentRowChanged, this, &frmBookmarks::SelectInBoth);
@@ -33,7 +34,6 @@ frmBookmarks::frmBookmarks(model::AppState& state, const platform::ProgramFolder
     }
     AddMenu(onTop);
     connect(new QShortcut(QKeySequence::Cancel, this), &QShortcut::activated, this, &QWidget::close);
-    resize(520, 320);
     bookmarks_.Load(programFolder_);
     ShowEntries();
 }
@@ -155,6 +155,12 @@ void frmBookmarks::Add(const QString& folder, const QWidget& button)
 void frmBookmarks::Save() const
 {
     static_cast<void>(bookmarks_.Save(programFolder_));
+}
+
+void frmBookmarks::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    resize_.FormResize();
 }
 
 void frmBookmarks::closeEvent(QCloseEvent* event)

@@ -6,6 +6,7 @@
 #include "app/Bookmarks.h"
 #include "model/AppState.h"
 #include "windowing/OnTopGroup.h"
+#include "windowing/Resize.h"
 
 #include <QWidget>
 
@@ -38,6 +39,7 @@ public:
     void Save() const;
 
 protected:
+    void resizeEvent(QResizeEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override; // of the two lists
 
@@ -54,6 +56,7 @@ private:
     const platform::ProgramFolder& programFolder_;
     std::function<void(const QString& folder)> choose_;
     Bookmarks bookmarks_;
+    windowing::Resize resize_{*this};
     QListWidget* lstNames_ = nullptr;
     QListWidget* lstBookmarks_ = nullptr; // the folders
     QMenu* mnuPopup_ = nullptr;

@@ -276,6 +276,7 @@ QWidget* frmMain::NewFolderPane()
               &frmMain::cmdBookmarks_Click);
     Command5_ = AddButton(*row, "Command5", QStringLiteral("+"), tr("Add Selected Folder to BookMarks"),
                           &frmMain::Command5_Click);
+    Command5_->setAccessibleName(Command5_->toolTip());
     column->addLayout(row);
     connect(Check2_, &QCheckBox::toggled, this, [this](bool on) {
         const QCursor pointer = cursor();
@@ -323,7 +324,7 @@ QWidget* frmMain::NewListPane()
     column->addWidget(lvw2_, 1);
 
     auto* counts = new QHBoxLayout;
-    Check1_ = AddBox(*counts, "Check1", tr("Check All"), tr("Check all files in File view"));
+    Check1_ = AddBox(*counts, "Check1", tr("&Check All"), tr("Check all files in File view"));
     counts->addSpacing(12);
     auto* hint = workspace::NewHint(tr("Right Click fileview for options"));
     hint->setObjectName(QStringLiteral("Label2"));
@@ -405,7 +406,7 @@ void frmMain::ConnectList()
     connect(lvw2_, &ListViewEditable::OLEDragDrop, this, [this] { gathering_.FilesDropped(); });
     connect(lvw2_, &ListViewEditable::Resize, this, &frmMain::FitColumns);
     connect(Check1_, &QCheckBox::toggled, this, [this](bool on) {
-        Check1_->setText(on ? tr("Uncheck All") : tr("Check All"));
+        Check1_->setText(on ? tr("Un&check All") : tr("&Check All"));
         gathering_.CheckAll(on);
     });
     connect(cmbFileType_, &QComboBox::activated, this,
@@ -583,7 +584,7 @@ void frmMain::ShowAllChecked()
 {
     const QSignalBlocker blocker(Check1_);
     Check1_->setChecked(true);
-    Check1_->setText(tr("Uncheck All"));
+    Check1_->setText(tr("Un&check All"));
 }
 
 void frmMain::ShowFileTypes(const QStringList& types)
