@@ -82,39 +82,79 @@ FormatWord WordAt(const QString& format, qsizetype at, const QDateTime& moment, 
     return {1, rest.first(1).toString()};
 }
 
-constexpr int SignificantDigits = 7;
+constexpr int SingleDigits = 7;
+constexpr int DoubleDigits = 15;
 
-// A positive number as its first digits, rounded with halves away from zero, and its decimal exponent.
+// A positive number as its first digits and its decimal exponent: 1.25 is "125", 0.
 struct Scientific
 {
     std::string digits;
     int exponent;
 };
 
-Scientific ToScientific(double value)
+// Leaves the first `count` digits, rounded with halves away from zero. With a count below 0 nothing is left.
+void Round(Scientific& number, int count)
 {
-    // A float has at most 112 significant decimal digits, so this is its exact value.
+    if (count >= static_cast<int>(number.digits.size())) {
+        return;
+    }
+    const bool isUp = count >= 0 && number.digits[static_cast<std::size_t>(count)] >= '5';
+    number.digits.resize(static_cast<std::size_t>(std::max(count, 0)));
+    int at = count - 1;
+    while (isUp && at >= 0 && number.digits[static_cast<std::size_t>(at)] == '9') {
+        number.digits[static_cast<std::size_t>(at--)] = '0';
+    }
+    if (isUp && at >= 0) {
+        ++number.digits[static_cast<std::size_t>(at)];
+    } else if (isUp) { // all nines, or none
+        number.digits.insert(0, 1, '1');
+        ++number.exponent;
+    }
+}
+
+Scientific ToScientific(double value, int digits)
+{
+    // A float has at most 112 significant decimal digits, so this is its exact value; of a double it is
+    // enough to round 15 digits.
     std::array<char, 160> text{};
     const auto end = std::to_chars(text.begin(), text.end(), value, std::chars_format::scientific, 120).ptr;
     const std::string_view exact(text.begin(), static_cast<std::size_t>(end - text.begin()));
     const std::size_t e = exact.find('e');
-    Scientific result{std::string(exact.substr(0, SignificantDigits + 1)),
-                      std::stoi(std::string(exact.substr(e + 1)))};
+    Scientific result{std::string(exact.substr(0, e)), std::stoi(std::string(exact.substr(e + 1)))};
     result.digits.erase(1, 1); // the point
-    if (exact[SignificantDigits + 1] < '5') {
-        return result;
-    }
-    int at = SignificantDigits - 1;
-    while (at >= 0 && result.digits[static_cast<std::size_t>(at)] == '9') {
-        result.digits[static_cast<std::size_t>(at--)] = '0';
-    }
-    if (at >= 0) {
-        ++result.digits[static_cast<std::size_t>(at)];
-    } else {
-        result.digits = "1000000"; // all nines
-        ++result.exponent;
-    }
+    Round(result, digits);
+    result.digits.resize(static_cast<std::size_t>(digits)); // all nines have become one more
     return result;
+}
+
+// A number's default text with that many significant digits.
+QString DefaultText(double value, int significantDigits)
+{
+    if (value == 0.0) {
+        return QStringLiteral("0");
+    }
+    if (!std::isfinite(value)) {
+        return QString::number(value); // no file size comes to that
+    }
+    const Scientific number = ToScientific(std::fabs(value), significantDigits);
+    QString digits = QString::fromStdString(number.digits);
+    while (digits.size() > 1 && digits.endsWith(u'0')) {
+        digits.chop(1);
+    }
+    const int exponent = number.exponent;
+    QString text;
+    if (exponent >= significantDigits || exponent < -4) {
+        text = digits.first(1) + (digits.size() > 1 ? u'.' + digits.mid(1) : QString()) +
+               (exponent < 0 ? QStringLiteral("E-") : QStringLiteral("E+")) + TwoDigits(std::abs(exponent));
+    } else if (exponent < 0) {
+        text = QStringLiteral("0.") + QString(-exponent - 1, u'0') + digits;
+    } else {
+        text = digits.leftJustified(exponent + 1, u'0');
+        if (text.size() > exponent + 1) {
+            text.insert(exponent + 1, u'.');
+        }
+    }
+    return value < 0 ? u'-' + text : text;
 }
 
 } // namespace
@@ -190,31 +230,33 @@ QString ShortestSingleText(float value)
 
 QString SingleText(float value)
 {
-    if (value == 0.0F) {
-        return QStringLiteral("0");
+    return DefaultText(static_cast<double>(value), SingleDigits);
+}
+
+QString DoubleText(double value)
+{
+    return DefaultText(value, DoubleDigits);
+}
+
+QString FixedText(double value, int decimals)
+{
+    if (value == 0.0 || !std::isfinite(value)) {
+        return QString::number(value, 'f', decimals);
     }
-    if (!std::isfinite(value)) {
-        return QString::number(static_cast<double>(value)); // no file size comes to that
+    Scientific number = ToScientific(std::fabs(value), DoubleDigits);
+    Round(number, number.exponent + 1 + decimals);
+    if (number.digits.empty()) {
+        return FixedText(0.0, decimals);
     }
-    const Scientific number = ToScientific(std::fabs(static_cast<double>(value)));
+    // The digits from the units on, whether the number has them or not.
     QString digits = QString::fromStdString(number.digits);
-    while (digits.size() > 1 && digits.endsWith(u'0')) {
-        digits.chop(1);
+    digits = QString(std::max(-number.exponent, 0), u'0') + digits;
+    const int units = std::max(number.exponent, 0) + 1;
+    digits = digits.leftJustified(units + decimals, u'0', true);
+    if (decimals > 0) {
+        digits.insert(units, u'.');
     }
-    const int exponent = number.exponent;
-    QString text;
-    if (exponent >= SignificantDigits || exponent < -4) {
-        text = digits.first(1) + (digits.size() > 1 ? u'.' + digits.mid(1) : QString()) +
-               (exponent < 0 ? QStringLiteral("E-") : QStringLiteral("E+")) + TwoDigits(std::abs(exponent));
-    } else if (exponent < 0) {
-        text = QStringLiteral("0.") + QString(-exponent - 1, u'0') + digits;
-    } else {
-        text = digits.leftJustified(exponent + 1, u'0');
-        if (text.size() > exponent + 1) {
-            text.insert(exponent + 1, u'.');
-        }
-    }
-    return value < 0 ? u'-' + text : text;
+    return value < 0 ? u'-' + digits : digits;
 }
 
 QString RoundedQuotientText(float value, int divisor)

@@ -49,6 +49,13 @@ double LeadingNumber(const QString& text);
 // "1E-05".
 QString SingleText(float value);
 
+// The same of a double-precision number: up to fifteen significant digits, scientific from 1E+15 on.
+QString DoubleText(double value);
+
+// A number with that many digits behind its point, rounded with halves away from zero after its fifteenth
+// digit: FixedText(0.25, 1) is "0.3". At least one digit stands in front of the point.
+QString FixedText(double value, int decimals);
+
 // The shortest text that reads back as the same single-precision number: "799.9371", "1e+20".
 QString ShortestSingleText(float value);
 

@@ -51,22 +51,6 @@ std::optional<QByteArray> ReadAll(const QString& path, qint64 maximumSize)
     }
 }
 
-QString FromWindows1252(const QByteArray& bytes)
-{
-    // 0x80 to 0x9F; the five that are undefined keep their value.
-    static constexpr char16_t upper[32] = {0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
-                                           0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
-                                           0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
-                                           0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
-    QString text = QString::fromLatin1(bytes);
-    for (QChar& unit : text) {
-        if (unit.unicode() >= 0x80 && unit.unicode() <= 0x9F) {
-            unit = upper[unit.unicode() - 0x80];
-        }
-    }
-    return text;
-}
-
 QString Decode(const QByteArray& bytes, Fallback fallback)
 {
     QString text = FromBytes(bytes);
@@ -85,6 +69,22 @@ QByteArray ResolveLink(const QByteArray& path)
 }
 
 } // namespace
+
+QString FromWindows1252(QByteArrayView bytes)
+{
+    // 0x80 to 0x9F; the five that are undefined keep their value.
+    static constexpr char16_t upper[32] = {0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                           0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
+                                           0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                           0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+    QString text = QString::fromLatin1(bytes);
+    for (QChar& unit : text) {
+        if (unit.unicode() >= 0x80 && unit.unicode() <= 0x9F) {
+            unit = upper[unit.unicode() - 0x80];
+        }
+    }
+    return text;
+}
 
 std::optional<QStringList> ReadLines(const QString& path, Fallback fallback, qint64 maximumSize)
 {

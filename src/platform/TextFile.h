@@ -23,6 +23,9 @@ enum class Fallback {
     NameBytes,   // logs: the bytes are those of file names
 };
 
+// Text of bytes in the code page Windows-1252; its five undefined bytes keep their value.
+QString FromWindows1252(QByteArrayView bytes);
+
 // Reads all lines of a text file. Takes CRLF and LF (and a mix); the last line may lack its end; a byte order
 // mark is dropped. An empty file gives no lines. Empty optional if the file can't be read, is no plain file,
 // or has more than `maximumSize` bytes: a person may hand over any file as a document.
