@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+//
+// Reading the Lyrics3 block, version 1 or 2, in front of an ID3v1 block or at the end of an audio file.
+// Source: Lyrics3 v2.00.
+#pragma once
+
+#include "metadata/Id3Tags.h"
+#include "platform/FileBytes.h"
+
+namespace metadata {
+
+struct Lyrics3Found
+{
+    bool version1 = false;
+    bool version2 = false;
+    qint64 audioEnd = 0; // the last byte in front of a version 2 block; version 1 counts as audio
+};
+
+// Looks for a block that ends at `audioEnd`, counted from 1, and fills the texts that are still empty.
+Lyrics3Found ReadLyrics3(const platform::FileBytes& file, qint64 audioEnd, Id3Tags& tags);
+
+// Applies the fields of a version 2 block, which begins with "LYRICSBEGIN". A size that isn't all digits ends
+// the fields.
+void ReadLyrics3Fields(QByteArrayView block, Id3Tags& tags);
+
+} // namespace metadata
