@@ -89,7 +89,31 @@ Dictionary BuildDictionaryOfReplace()
     return dictionary;
 }
 
+Dictionary BuildDictionaryOfPictures()
+{
+    Dictionary dictionary;
+    for (const DateWord& entry : Words) {
+        dictionary.insert(u'$' + QString::fromUtf16(entry.word) + u'$',
+                          {DateToken::Base::Picture, entry.current, QString::fromUtf16(entry.currentFormat)});
+    }
+    // "mm" standing alone is the month, also for "$min$".
+    for (const auto& [word, format] :
+         {std::pair(u"$hour$", u"hh"), std::pair(u"$min$", u"mm"), std::pair(u"$sec$", u"ss"),
+          std::pair(u"$yyyy$", u"yyyy"), std::pair(u"$yy$", u"yy"), std::pair(u"$mm$", u"mm")}) {
+        dictionary.insert(QString::fromUtf16(word),
+                          {DateToken::Base::Picture, DateForm::Format, QString::fromUtf16(format)});
+    }
+    return dictionary;
+}
+
 } // namespace
+
+std::optional<DateToken> PictureDateTokenOf(const QString& word)
+{
+    static const Dictionary dictionary = BuildDictionaryOfPictures();
+    const auto found = dictionary.constFind(word);
+    return found == dictionary.cend() ? std::nullopt : std::optional(*found);
+}
 
 std::optional<DateToken> DateTokenOf(const QString& text, model::ActionKind kind)
 {

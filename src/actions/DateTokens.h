@@ -31,7 +31,7 @@ enum class DateForm {
 
 struct DateToken
 {
-    enum class Base { CurrentMoment, Modified };
+    enum class Base { CurrentMoment, Modified, Picture };
 
     Base base = Base::CurrentMoment;
     DateForm form = DateForm::Format;
@@ -40,6 +40,10 @@ struct DateToken
 
 // The date token that is exactly `text`, if actions of `kind` honour one.
 std::optional<DateToken> DateTokenOf(const QString& text, model::ActionKind kind);
+
+// The token that is exactly `word` where it counts from a picture's date: several write two digits there that
+// are plain numbers elsewhere, and "$min$" is the month.
+std::optional<DateToken> PictureDateTokenOf(const QString& word);
 
 // The token's value for a moment. REQUIRES: the form isn't None.
 QString DateText(const DateToken& token, const QDateTime& moment);

@@ -2,6 +2,7 @@
 #include "actions/TokenExpander.h"
 
 #include "model/ActionError.h"
+#include "model/GetFName.h"
 #include "model/Text.h"
 #include "platform/Conversions.h"
 
@@ -12,6 +13,7 @@ namespace {
 using model::ActionKind;
 
 const QString ExifPrefix = QStringLiteral("$Exif_");
+const QString ExifDatePrefix = QStringLiteral("$Exif_date_");
 const QString Mp3Prefix = QStringLiteral("$MP3_ID3_");
 const QString ComposeRandomPrefix = QStringLiteral("$Random$_");
 const QString ListRandomPrefix = QStringLiteral("$Rand$_");
@@ -44,6 +46,22 @@ QDateTime ModifiedMoment(const model::NameContext& row)
     return platform::LocalMoment(*row.modified);
 }
 
+// The row's picture date, which parts its days with ":".
+QDateTime PictureMoment(const model::NameContext& row)
+{
+    QString date = row.exifDate;
+    for (int time = 0; time < 2; ++time) {
+        if (const qsizetype colon = date.indexOf(u':'); colon >= 0) {
+            date[colon] = u'/';
+        }
+    }
+    const auto moment = platform::ToMoment(date);
+    if (!moment) {
+        throw model::ActionError(platform::DescriptionOf(platform::ConversionFault::TypeMismatch));
+    }
+    return *moment;
+}
+
 } // namespace
 
 TokenExpander::TokenExpander(const QString& text, ActionKind kind, const TokenBlocks& blocks,
@@ -60,12 +78,14 @@ TokenExpander::Token TokenExpander::Recognise(const QString& text, const TokenBl
 {
     const QString randomPrefix = RandomPrefixOf(kind_);
     const bool isRandom = !randomPrefix.isEmpty() && text.contains(randomPrefix);
-    if (text.contains(ExifPrefix)) {
+    if (text.contains(ExifPrefix)) { // "$Exif_date_" holds it, too
+        SetExifKey(text);
         return Token::Exif;
     }
     // In a Compose element a random mask goes before MP3 data, in a list row behind it.
     const bool isMp3 = kind_ != ActionKind::Extension && text.contains(Mp3Prefix);
     if (isMp3 && !(isRandom && kind_ == ActionKind::Compose)) {
+        text_ = QString(text).remove(Mp3Prefix);
         return Token::Mp3;
     }
     if (isRandom) {
@@ -118,11 +138,12 @@ std::optional<QString> TokenExpander::Expand(const model::NameContext& row, cons
     switch (token_) {
     case Token::Literal:
         return text_;
-    case Token::Exif:
-        return MissingExif(piece);
+    case Token::Exif: {
+        const bool hasData = row.exifLines.size() >= 2 && row.type == model::JpegImage;
+        return hasData ? ExifValue(row) : MissingExif(piece);
+    }
     case Token::Mp3:
-        // A Compose element without data adds nothing; everywhere else the name is left alone.
-        return kind_ == ActionKind::Compose ? std::optional(QString()) : std::nullopt;
+        return Mp3Value(row);
     case Token::Random:
         return RandomString(text_, run_.random);
     case Token::Date:
@@ -150,6 +171,43 @@ std::optional<QString> TokenExpander::Expand(const model::NameContext& row, cons
         return letters_.NextLetters(run_.counters.Of(kind_));
     }
     return std::nullopt;
+}
+
+// The key begins with the seventh character, the word of a date with the twelfth, wherever in the text the
+// prefix stands. A word that is no date token stands for the whole text.
+void TokenExpander::SetExifKey(const QString& text)
+{
+    isPictureDate_ = text.contains(ExifDatePrefix);
+    if (!isPictureDate_) {
+        text_ = model::Mid(text, 7, model::Length(text));
+    } else {
+        date_ = PictureDateTokenOf(model::Mid(text, 12, model::Length(text)));
+    }
+}
+
+std::optional<QString> TokenExpander::ExifValue(const model::NameContext& row) const
+{
+    if (isPictureDate_) {
+        return date_ ? DateText(*date_, PictureMoment(row)) : text_;
+    }
+    for (const QString& line : row.exifLines) {
+        if (line.contains(text_)) {
+            // The key, a colon and a blank come off the line's length, wherever in it the key stands.
+            const int count = model::Length(line) - model::Length(text_) - 2;
+            if (count < 0) {
+                throw model::ActionError(QStringLiteral("Invalid procedure call or argument"));
+            }
+            return model::Right(line, count);
+        }
+    }
+    return QString();
+}
+
+// Without data a Compose element adds nothing; everywhere else the name is left alone.
+std::optional<QString> TokenExpander::Mp3Value(const model::NameContext& row) const
+{
+    const QString value = row.mp3 ? row.mp3->Value(text_) : QString();
+    return value.isEmpty() && kind_ != ActionKind::Compose ? std::nullopt : std::optional(value);
 }
 
 std::optional<QString> TokenExpander::MissingExif(const QString& piece) const

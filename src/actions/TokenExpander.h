@@ -61,14 +61,18 @@ private:
 
     Token Recognise(const QString& text, const TokenBlocks& blocks);
     Token RecogniseWhole(const QString& text, const TokenBlocks& blocks);
+    void SetExifKey(const QString& text);
+    std::optional<QString> ExifValue(const model::NameContext& row) const;
     std::optional<QString> MissingExif(const QString& piece) const;
+    std::optional<QString> Mp3Value(const model::NameContext& row) const;
 
     model::ActionKind kind_;
     RunState run_;
     CounterFormat numbers_;
     CounterFormat letters_;
-    QString text_; // the literal, or the mask of Token::Random
+    QString text_; // the literal, the mask of Token::Random, or the key of metadata
     std::optional<DateToken> date_;
+    bool isPictureDate_ = false; // a token of metadata holds "$Exif_date_"
     Token token_;
 };
 

@@ -17,6 +17,9 @@ namespace {
 constexpr std::size_t HeadSize = 4'096;
 constexpr std::size_t EntrySize = 12;
 
+// Numbers of four bytes are signed, so a larger one overflows.
+constexpr std::uint32_t Greatest = std::numeric_limits<qint32>::max();
+
 constexpr int ExifOffset = 34665;                 // the tag that tells where the Exif directory lies
 constexpr int ExifInteroperabilityOffset = 40965; // searched for, but what it tells isn't read
 
@@ -29,9 +32,8 @@ QString NotExifText()
 std::optional<std::uint32_t> OffsetOf(const QString& text)
 {
     const double number = std::nearbyint(platform::LeadingNumber(text));
-    return number >= 0 && number <= std::numeric_limits<qint32>::max()
-               ? std::optional(static_cast<std::uint32_t>(number))
-               : std::nullopt;
+    return number >= 0 && number <= Greatest ? std::optional(static_cast<std::uint32_t>(number))
+                                             : std::nullopt;
 }
 
 } // namespace
@@ -62,7 +64,8 @@ void clsEXIF::ReadMetaInfo(std::string_view head)
     const std::size_t base = found + 1 + 6; // of the TIFF header, counted from 1
     order_ = text.substr(base - 1, 2) == "II" ? ByteOrder::LittleEndian : ByteOrder::BigEndian;
     records_.clear();
-    const std::uint32_t first = buffer.UInt32(base + 4, order_).value_or(0);
+    const std::uint32_t told = buffer.UInt32(base + 4, order_).value_or(0);
+    const std::uint32_t first = told <= Greatest ? told : 0;
     // Where the first directory ended early, or had no such entry, the second is read at offset 0: the header
     // passes for a directory then.
     const std::uint32_t second = ReadIfd(buffer, base, first, ExifOffset);
@@ -108,10 +111,10 @@ bool clsEXIF::ReadEntry(const ByteView& buffer, std::size_t base, std::size_t po
     const auto value = buffer.UInt32(position + 8, order_);
     record.TagNum = tag.value_or(0);
     record.Format = format.value_or(0);
-    record.Components = components.value_or(0);
-    if (!value) {
+    if (!value || *components > Greatest) {
         return false;
     }
+    record.Components = *components;
     record.Value = *value;
     record.TagName = ExifTagName(record.TagNum);
     const auto componentSize = ExifFormatSize(record.Format);

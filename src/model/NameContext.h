@@ -5,10 +5,20 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
 namespace model {
+
+// What an MP3 file tells about itself, by the keys of tokens. An unknown key and what the file doesn't tell
+// are empty.
+class Mp3Properties
+{
+public:
+    virtual ~Mp3Properties() = default;
+    virtual QString Value(const QString& key) const = 0;
+};
 
 struct NameContext
 {
@@ -18,6 +28,8 @@ struct NameContext
     QString folder;
     QString type;
     QString exifDate; // the picture's date and time as it stands in the file; empty if no row had one yet
+    QStringList exifLines;              // "TagName: value" of the picture, or of the one before it
+    const Mp3Properties* mp3 = nullptr; // null unless the file was an MP3 by its name
 };
 
 } // namespace model

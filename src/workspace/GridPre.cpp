@@ -57,6 +57,7 @@ qint64 DateKey(const model::RenameRow& row, int column)
         return row.modified.value_or(noDate);
     }
     QString text = TextOf(row, column);
+    text.remove(0, text.indexOf(u' ') == 9 ? 10 : 0); // "DateTime: "
     if (text.size() > 7 && text.at(4) == u':' && text.at(7) == u':') {
         text[4] = text[7] = u'/';
     }
@@ -162,6 +163,11 @@ void GridPre::SetPreview(int row, const QString& text)
 void GridPre::SetState(int row, model::ValidationState state)
 {
     Changed(row).state = state;
+}
+
+void GridPre::SetPictureTakenDate(int row, const QString& text)
+{
+    Changed(row).pictureTakenDate = text;
 }
 
 void GridPre::PromotePreviews()

@@ -55,6 +55,7 @@ public:
     // Announced by AnnounceChanges.
     void SetPreview(int row, const QString& text);
     void SetState(int row, model::ValidationState state);
+    void SetPictureTakenDate(int row, const QString& text);
 
     // Makes every non-empty Preview the row's Original and empties it. Announced by AnnounceChanges.
     void PromotePreviews();

@@ -4,6 +4,7 @@
 // actions, then row 2, so a counter moves once a row for each action that uses it.
 #include "actions/ActionHandler.h"
 #include "workspace/RenameWorkspace.h"
+#include "workspace/RunMetadata.h"
 
 #include <algorithm>
 
@@ -83,6 +84,7 @@ void RenameWorkspace::RunPreview()
     host_.SetProgressValue(0);
     host_.SetProgressMaximum(rowCount);
     host_.ShowStatus(QStringLiteral("Generating Preview..."));
+    RunMetadata metadata(programFolder_.Path(), lstExif_);
     model::NameContext context; // exifDate lives on from row to row
     // What runs while the loop yields may shorten the grid.
     for (int row = 1; row <= rowCount && row <= grid.RowCount(); ++row) {
@@ -95,6 +97,7 @@ void RenameWorkspace::RunPreview()
         context.size = static_cast<float>(data.size);
         context.folder = data.folder;
         context.type = data.type;
+        metadata.Load(data, context);
         for (const auto& handler : handlers) {
             context.name = handler->NewName(context);
             host_.Yield();

@@ -3,6 +3,7 @@
 
 #include "model/GetFName.h"
 #include "platform/FileSystem.h"
+#include "workspace/RunMetadata.h"
 
 #include <algorithm>
 #include <optional>
@@ -134,6 +135,7 @@ void RenameWorkspace::Refreshrnm()
 {
     host_.ShowRowCount(QString());
     grid.Clear();
+    picTakenLoaded_ = false;
     host_.ShowStatus(QStringLiteral("Loading Files..."));
     host_.SetProgressMaximum(state_.CheckedCount);
     host_.SetProgressValue(0);
@@ -164,13 +166,20 @@ void RenameWorkspace::RefreshrnmPicTak()
     std::size_t current = 0;
     // In a drop start the list was filled a moment ago, with no event in between.
     RowMaker maker(state_.DropStart ? RowMaker::Look::AsListed : RowMaker::Look::Again);
+    metadata::clsEXIF exif(programFolder_.Path());
     for (int index = 1; index <= mainList_.Count(); ++index) {
         if (state_.StopFlag.IsSet()) {
             state_.StopFlag.Clear();
             break;
         }
+        const model::FileRow& item = mainList_.Item(index);
+        if (item.Type == QStringLiteral("JPEG file") && current < rows.size()) {
+            rows[current].pictureTakenDate = PictureDateLine(exif, item.Path + item.Text, lstExif_);
+        }
         if (mainList_.Checked(index) && current < rows.size()) {
-            rows[current++] = maker.RowOf(mainList_.Item(index));
+            model::RenameRow row = maker.RowOf(item);
+            row.pictureTakenDate = rows[current].pictureTakenDate;
+            rows[current++] = std::move(row);
         }
         host_.Yield();
     }
@@ -183,7 +192,32 @@ void RenameWorkspace::SortBy(int entry)
         return;
     }
     const SortEntry& sort = SortTable[entry];
+    if (sort.column == GridPre::PictureTakenDate) {
+        FetchPictureDates();
+    }
     grid.Sort(sort.column, sort.order, sort.kind);
+}
+
+void RenameWorkspace::FetchPictureDates()
+{
+    if (picTakenLoaded_) {
+        return;
+    }
+    host_.ShowStatus(QStringLiteral("Getting Picture Taken Data..."));
+    host_.SetProgressMaximum(grid.RowCount());
+    host_.SetProgressValue(0);
+    metadata::clsEXIF exif(programFolder_.Path());
+    for (int row = 1; row <= grid.RowCount() && !state_.StopFlag.IsSet(); ++row) {
+        const model::RenameRow& data = grid.Row(row);
+        if (data.type == model::JpegImage) {
+            grid.SetPictureTakenDate(row, PictureDateLine(exif, data.path + data.original, lstExif_));
+        }
+        host_.SetProgressValue(row);
+        host_.Yield();
+    }
+    host_.SetProgressValue(0);
+    host_.ShowStatus(QStringLiteral("Ready"));
+    picTakenLoaded_ = true;
 }
 
 void RenameWorkspace::cmdClear_Click()

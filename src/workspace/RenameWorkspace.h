@@ -58,10 +58,12 @@ public:
     void Refreshrnm();
 
     // The same for a start with a command line: no status, progress or row count. It makes CheckedCount rows
-    // at once and fills them in place.
+    // at once and fills them in place. Pictures whose type is "JPEG file" leave their date in the row that
+    // stands next to be filled, checked or not.
     void RefreshrnmPicTak();
 
-    // Sorts the rows by an entry of SortEntries(), counted from 0. Their order is what counters number.
+    // Sorts the rows by an entry of SortEntries(), counted from 0. Their order is what counters number. A
+    // sort by picture dates reads them first, once until Refreshrnm; a set StopFlag ends that, and stays set.
     void SortBy(int entry);
 
     // Gives every row its new name, and validates if AutoValidate is set. Without a selected action it only
@@ -96,6 +98,7 @@ public:
 
 private:
     void RunPreview();
+    void FetchPictureDates();
     void NormalizeAttributes();
     bool MoveRows(); // true if StopFlag ended it
     void RefreshMainView();
@@ -109,6 +112,8 @@ private:
     const platform::ProgramFolder& programFolder_;
     actions::CounterStates counters_;
     bool previewDone_ = false;
+    QStringList lstExif_; // what the picture that was read last tells; kept from run to run
+    bool picTakenLoaded_ = false;
 };
 
 // The last component of a folder path that ends with `separator`; empty for a root, and for a relative path

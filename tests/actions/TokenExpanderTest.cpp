@@ -32,7 +32,7 @@ protected:
         return expander.Expand(file, u"a\u00c9"_qs, previous).value_or(u"(leaves the name)"_qs);
     }
 
-    model::NameContext file{{}, Modified.toSecsSinceEpoch(), 1536, u"holiday"_qs, {}, {}};
+    model::NameContext file{{}, Modified.toSecsSinceEpoch(), 1536, u"holiday"_qs, {}, {}, {}, nullptr};
     CounterBlock counter;
     AlphaCounterBlock letters;
 };
