@@ -73,4 +73,51 @@ QString ExifTagName(int number)
     return found != Names.cend() ? *found : QStringLiteral("Tag #") + QString::number(number);
 }
 
+const QStringList& OfferedExifTags()
+{
+    static const QStringList names{
+        QStringLiteral("Make"),
+        QStringLiteral("Model"),
+        QStringLiteral("Orientation"),
+        QStringLiteral("XResolution"),
+        QStringLiteral("YResolution"),
+        QStringLiteral("ResolutionUnit"),
+        QStringLiteral("DateTime"),
+        QStringLiteral("YCbCrPositioning"),
+        QStringLiteral("ExifOffset"),
+        QStringLiteral("ExposureTime"),
+        QStringLiteral("FNumber"),
+        QStringLiteral("ExifVersion"),
+        QStringLiteral("DateTimeOriginal"),
+        QStringLiteral("DateTimeDigitized"),
+        QStringLiteral("ComponentsConfiguration"),
+        QStringLiteral("CompressedBitsPerPixel"),
+        QStringLiteral("ShutterSpeedValue"),
+        QStringLiteral("ApertureValue"),
+        QStringLiteral("ExposureBiasValue"),
+        QStringLiteral("MaxApertureValue"),
+        QStringLiteral("MeteringMode"),
+        QStringLiteral("Flash"),
+        QStringLiteral("FocalLength"),
+        QStringLiteral("MakerNote"),
+        QStringLiteral("UserComment"),
+        QStringLiteral("FlashPixVersion"),
+        QStringLiteral("ColorSpace"),
+        QStringLiteral("ExifImageWidth"),
+        QStringLiteral("ExifImageHeight"),
+        QStringLiteral("ExifInteroperabilityOffset"),
+        QStringLiteral("FocalPlaneXResolution"),
+        QStringLiteral("FocalPlaneYResolution"),
+        QStringLiteral("FocalPlaneResolutionUnit"),
+        QStringLiteral("SensingMethod"),
+        QStringLiteral("FileSource"),
+        QStringLiteral("Tag #41985"),
+        QStringLiteral("Tag #41986"),
+        QStringLiteral("Tag #41987"),
+        QStringLiteral("Tag #41988"),
+        QStringLiteral("Tag #41990"),
+    };
+    return names;
+}
+
 } // namespace metadata

@@ -106,6 +106,53 @@ TEST(PickersOnScreen, StandBelowTheirComboKeepItsBlocksAndCloseWithIt)
     EXPECT_EQ(OpenPicker(), nullptr);
 }
 
+TEST(MetadataPickers, EveryPickIsWrittenAndThePictureDateAsksForItsFormat)
+{
+    Desk desk;
+    desk.state.MetadataChoice = 1;
+    desk.GoTo(ActionKind::Prefix);
+    auto& combo = desk.Find<QComboBox>("cmbPrefix");
+    const auto pick = [&](const char* entry) {
+        combo.setFocus();
+        combo.setCurrentIndex(combo.findText(QLatin1String(entry)) - 1);
+        QTest::keyClick(&combo, Down);
+    };
+    pick("$Exif Data$");
+    EXPECT_EQ(OpenPicker()->windowTitle(), u"Select Exif Data"_qs);
+    EXPECT_EQ(combo.currentText(), u"$Exif_Model"_qs) << "the entry left last is a pick";
+    auto& exif = InPicker<QListWidget>("lstSelExif");
+    EXPECT_EQ(exif.count(), 40);
+    QTest::keyClick(&exif, Down);
+    EXPECT_EQ(desk.workspace.options.prefix.cmbPrefix.combo, u"$Exif_Orientation"_qs);
+    QTest::keyClick(&exif, Enter);
+    EXPECT_TRUE(OpenPicker() == nullptr && combo.currentText() == u"$Exif_Orientation"_qs);
+    EXPECT_EQ(desk.state.MetadataChoice, 2);
+
+    pick("$MP3 Data$");
+    EXPECT_EQ(combo.currentText(), u"$MP3_ID3_Band"_qs) << "one memory for both";
+    auto& keys = InPicker<QListWidget>("lstSelID3");
+    const QPoint last = keys.visualItemRect(keys.item(3)).center();
+    QTest::mouseClick(keys.viewport(), Qt::LeftButton, {}, last);
+    QTest::mouseDClick(keys.viewport(), Qt::LeftButton, {}, last);
+    EXPECT_TRUE(OpenPicker() == nullptr && combo.currentText() == u"$MP3_ID3_Bitrate"_qs);
+
+    desk.state.MetadataChoice = 5;
+    pick("$Exif Data$");
+    QWidget& list = InPicker<QListWidget>("lstSelExif");
+    QTest::keyClick(&list, Down);
+    EXPECT_EQ(combo.currentText(), u"$Exif_date_$mmddyyyy$"_qs);
+    auto& dates = Find<QDialog>(desk.window, u"frmEDateFormat"_qs);
+    EXPECT_TRUE(dates.isVisible() && list.isVisible());
+    auto& formats = Find<QComboBox>(dates, u"cmbEDateFormat"_qs);
+    QTest::keyClick(&formats, Qt::Key_End);
+    EXPECT_EQ(combo.currentText(), u"$Exif_date_$hh_mm_ss$"_qs);
+    QTest::keyClick(&formats, Enter);
+    EXPECT_EQ(combo.currentText(), u"$Exif_date_$hh_mm_ss$"_qs) << "OK only closes";
+    EXPECT_EQ(desk.state.LastDateToken, u"$hh_mm_ss$"_qs);
+    desk.GoTo(ActionKind::Suffix);
+    EXPECT_EQ(OpenPicker(), nullptr) << "the list goes with its combo";
+}
+
 TEST(MaskPicker, WritesTheMaskHoweverItIsClosed)
 {
     model::AppState state;

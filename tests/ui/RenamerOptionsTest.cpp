@@ -141,7 +141,7 @@ TEST(CountingPanels, APickFromTheListShowsTheBlockThatFeedsIt)
         EXPECT_EQ(shown, u"$Counter$=C $AlphaCounter$=A "_qs + stretch +
                              u"$current_date$=A $current_time$=A $modified_date$=A $modified_time$=A "
                              u"$filesizeB$=A $filesizeKB$=A $filesizeMB$=A $foldername$=A "
-                             u"$Random String$=R $Exif Data$= $MP3 Data$= "_qs);
+                             u"$Random String$=R $Exif_Make=R $MP3_ID3_Album=R "_qs);
     }
 }
 

@@ -90,10 +90,22 @@ FormatList TimeFormats()
             &model::AppState::LastTimeToken};
 }
 
+FormatList PictureDateFormats()
+{
+    return {QLatin1String("frmEDateFormat"),
+            QLatin1String("cmbEDateFormat"),
+            QLatin1String("cmdEDateFormatOk"),
+            PickerWindow::tr("Select Picture taken Date/Time Format"),
+            DateFormats().tokens + TimeFormats().tokens,
+            &model::AppState::LastDateToken,
+            true};
+}
+
 FormatPicker::FormatPicker(const FormatList& list, const QString& entry, model::AppState& state,
                            QWidget* owner)
     : PickerWindow(list.window, list.title, owner),
       current_(entry == QLatin1String("$current_date$") || entry == QLatin1String("$current_time$")),
+      ofPicture_(list.ofPicture),
       now_(model::Clock().Now()),
       tokens_(new QComboBox),
       example_(new QLabel)
@@ -114,7 +126,7 @@ FormatPicker::FormatPicker(const FormatList& list, const QString& entry, model::
     fields->addRow(tr("Format:"), tokens_);
     fields->addRow(new QLabel(tr("Example:")), example_); // no field, so without a letter
     column->addLayout(fields);
-    if (!current_) {
+    if (!current_ && !ofPicture_) {
         column->addWidget(NewHint(tr("Pick a format and close this window to use the date and time of each "
                                      "file. OK uses the current ones.")));
     }
@@ -130,13 +142,17 @@ FormatPicker::FormatPicker(const FormatList& list, const QString& entry, model::
 
 QString FormatPicker::TokenToWrite(const QString& token) const
 {
+    if (ofPicture_) {
+        return QLatin1String("$Exif_date_") + token;
+    }
     return current_ ? token : QLatin1String("$mod_") + token.mid(1);
 }
 
 QString FormatPicker::Example(const QString& token) const
 {
     // The tokens listed mean the same in every action.
-    const auto meaning = actions::DateTokenOf(TokenToWrite(token), model::ActionKind::Prefix);
+    const auto meaning = ofPicture_ ? actions::PictureDateTokenOf(token)
+                                    : actions::DateTokenOf(TokenToWrite(token), model::ActionKind::Prefix);
     return !meaning || meaning->form == actions::DateForm::None ? tr("(no text)")
                                                                 : actions::DateText(*meaning, now_);
 }
@@ -149,7 +165,9 @@ void FormatPicker::ShowExample()
 
 void FormatPicker::accept()
 {
-    Q_EMIT Wrote(tokens_->currentText());
+    if (!ofPicture_) {
+        Q_EMIT Wrote(tokens_->currentText());
+    }
     QDialog::accept();
 }
 

@@ -48,14 +48,17 @@ struct FormatList
     QString title;
     QStringList tokens;
     QString model::AppState::*remembered; // the token picked last
+    bool ofPicture = false;               // formats count from the date in a picture
 };
 
 FormatList DateFormats();
 FormatList TimeFormats();
+FormatList PictureDateFormats(); // both
 
-// A list pick is written at once: as it stands after `$current_date$` and `$current_time$`, with "$mod_" in
-// front after any other entry. "OK" always writes the token as it stands, so a token of the modification date
-// remains one only if the window is closed without "OK".
+// A list pick is written at once: as it stands after `$current_date$` and `$current_time$`, with
+// "$Exif_date_" in front where it is a picture's, and with "$mod_" after any other entry. "OK" always writes
+// the token as it stands, so a token of the modification date remains one only if the window is closed
+// without "OK"; where it is a picture's, "OK" only closes.
 class FormatPicker final : public PickerWindow
 {
     Q_OBJECT
@@ -72,6 +75,7 @@ private:
     void ShowExample();
 
     bool current_; // formats the current moment and no file's date
+    bool ofPicture_;
     QDateTime now_;
     QComboBox* tokens_;
     QLabel* example_;

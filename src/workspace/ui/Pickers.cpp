@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "workspace/ui/Pickers.h"
 
+#include "workspace/ui/MetadataPicker.h"
 #include "workspace/ui/PickerWindows.h"
 
 #include <QEvent>
 
+#include <algorithm>
 #include <utility>
 
 namespace workspace {
@@ -20,16 +22,18 @@ Pickers::~Pickers()
 
 bool Pickers::Pick(const QString& entry, QComboBox& combo, MaskFrom mask, std::function<void()> closed)
 {
-    if (window_ && target_.combo == &combo) {
+    if (!windows_.empty() && target_.combo == &combo) {
         combo.disconnect(this);
-        window_->disconnect(this); // what it would write now is out of date
-        window_->reject();
+        for (PickerWindow* const window : std::exchange(windows_, {})) {
+            window->disconnect(this); // what it would write now is out of date
+            window->reject();
+        }
     } else {
         Close();
     }
     target_ = {&combo, entry};
-    window_ = NewWindow(entry, mask, combo.window());
-    if (!window_) {
+    PickerWindow* const window = NewWindow(entry, mask, combo.window());
+    if (!window) {
         Finish();
         return false;
     }
@@ -37,8 +41,35 @@ bool Pickers::Pick(const QString& entry, QComboBox& combo, MaskFrom mask, std::f
         closed_.push_back(std::move(closed));
     }
     Watch(combo);
-    window_->OpenBelow(combo);
+    Open(*window);
     return true;
+}
+
+void Pickers::Open(PickerWindow& window)
+{
+    windows_.push_back(&window);
+    connect(&window, &PickerWindow::Wrote, this, [this](const QString& text) {
+        if (target_.combo) {
+            target_.combo->setEditText(text);
+        }
+    });
+    connect(&window, &QDialog::finished, this, [this, &window] { Forget(&window); });
+    connect(&window, &QObject::destroyed, this, &Pickers::Forget); // with its owner, unclosed
+    window.OpenBelow(*target_.combo);
+}
+
+// A window that is closed is destroyed later, when another one may be open.
+void Pickers::Forget(const QObject* window)
+{
+    const auto found = std::find(windows_.begin(), windows_.end(), window);
+    if (found == windows_.end()) {
+        return;
+    }
+    window->disconnect(this);
+    windows_.erase(found);
+    if (windows_.empty()) {
+        Finish();
+    }
 }
 
 PickerWindow* Pickers::NewWindow(const QString& entry, MaskFrom mask, QWidget* owner)
@@ -52,7 +83,24 @@ PickerWindow* Pickers::NewWindow(const QString& entry, MaskFrom mask, QWidget* o
     if (entry == QLatin1String("$Random String$") && mask == MaskFrom::Window) {
         return new frmRandom(state_, random_, owner);
     }
-    return nullptr;
+    return NewMetadataPicker(entry, owner);
+}
+
+PickerWindow* Pickers::NewMetadataPicker(const QString& entry, QWidget* owner)
+{
+    if (entry == QLatin1String("$Exif Data$")) {
+        auto* const picker = new MetadataPicker(ExifTags(), state_, owner);
+        connect(picker, &MetadataPicker::DateWanted, this, &Pickers::OpenPictureDates);
+        return picker;
+    }
+    return entry == QLatin1String("$MP3 Data$") ? new MetadataPicker(Id3Keys(), state_, owner) : nullptr;
+}
+
+void Pickers::OpenPictureDates()
+{
+    if (target_.combo && windows_.size() == 1) {
+        Open(*new FormatPicker(PictureDateFormats(), target_.entry, state_, target_.combo->window()));
+    }
 }
 
 void Pickers::Watch(QComboBox& combo)
@@ -65,13 +113,6 @@ void Pickers::Watch(QComboBox& combo)
         }
     };
     connect(&combo, &QObject::destroyed, this, closeAlone, Qt::QueuedConnection);
-    connect(window_, &PickerWindow::Wrote, this, [this](const QString& text) {
-        if (target_.combo) {
-            target_.combo->setEditText(text);
-        }
-    });
-    connect(window_, &QDialog::finished, this, &Pickers::Finish);
-    connect(window_, &QObject::destroyed, this, &Pickers::Finish); // with its owner, unclosed
 }
 
 bool Pickers::eventFilter(QObject* watched, QEvent* event)
@@ -86,17 +127,13 @@ bool Pickers::eventFilter(QObject* watched, QEvent* event)
 
 void Pickers::Close()
 {
-    if (window_) {
-        window_->reject();
+    for (PickerWindow* const window : std::vector(windows_)) {
+        window->reject(); // which forgets it
     }
 }
 
 void Pickers::Finish()
 {
-    if (window_) {
-        window_->disconnect(this); // it is destroyed later, when another one may be open
-        window_ = nullptr;
-    }
     if (target_.combo) {
         target_.combo->removeEventFilter(this);
         target_.combo->disconnect(this);

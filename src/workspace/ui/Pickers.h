@@ -2,7 +2,8 @@
 //
 // Pickers: the small windows that write a token into a value box. A pick from a value list makes its combo
 // the pick target; entries that stand for a choice, such as $current_date$, then open a window below the
-// combo. The windows block nothing and stay on top; one is open at a time.
+// combo. The windows block nothing and stay on top. One is open at a time, but for the formats of a picture's
+// date, which open beside the list of its data.
 #pragma once
 
 #include "model/AppState.h"
@@ -55,13 +56,17 @@ public:
 
 private:
     PickerWindow* NewWindow(const QString& entry, MaskFrom mask, QWidget* owner);
+    PickerWindow* NewMetadataPicker(const QString& entry, QWidget* owner);
+    void Open(PickerWindow& window);
+    void OpenPictureDates();
     void Watch(QComboBox& combo);
+    void Forget(const QObject* window);
     void Finish();
 
     model::AppState& state_;
     model::RandomSource& random_;
     PickTarget target_;
-    QPointer<PickerWindow> window_; // the open one
+    std::vector<PickerWindow*> windows_; // the open one, or the list of a picture's data and its dates
     std::vector<std::function<void()>> closed_;
 };
 
