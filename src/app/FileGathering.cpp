@@ -314,6 +314,9 @@ bool FileGathering::LoadList(const QString& path)
 platform::Status FileGathering::LoadManaged(const QString& path,
                                             const std::function<void(const QString& file)>& isMissing)
 {
+    if (IsScanning()) {
+        return platform::Status::Failure(QStringLiteral("Please stop the search first"));
+    }
     const auto files = LoadManagedList(path);
     if (!files) {
         return platform::Status::Failure(QStringLiteral("File not found"));

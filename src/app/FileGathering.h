@@ -118,7 +118,7 @@ public:
 
     // Replaces the list by the files of a list of the manager's form, checked if files are so at first.
     // `isMissing` is told of each file that isn't there; it gets a row all the same. Fails if the file can't
-    // be read.
+    // be read, and during a scan.
     platform::Status LoadManaged(const QString& path,
                                  const std::function<void(const QString& file)>& isMissing);
 

@@ -307,7 +307,9 @@ TEST_F(Session, BookmarksAreNamedChosenAndKept)
     In<QMenu>(bookmarks, "mnuPopup").findChild<QAction*>(u"mnuOnTop"_qs)->trigger();
     Click(Main(), "chkOnTop");
     EXPECT_FALSE(bookmarks.findChild<QAction*>(u"mnuOnTop"_qs)->isChecked());
-    folders.setCurrentRow(-1);
+    for (QListWidget* list : {&names, &folders}) {
+        list->clearSelection();
+    }
     QTest::keyClick(&folders, Qt::Key_Delete);
     EXPECT_EQ(names.count(), 2) << "nothing is selected";
     folders.setCurrentRow(0);

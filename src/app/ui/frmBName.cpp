@@ -30,6 +30,9 @@ frmBName::frmBName(Bookmarks& bookmarks, model::AppState& state, std::function<v
     connect(accept, &QPushButton::clicked, this, &frmBName::Command1_Click);
     connect(Check1_, &QCheckBox::clicked, this,
             [this](bool on) { state_.DontAskBookmarkNames = on ? 1 : 0; });
+    for (QWidget* control : std::initializer_list<QWidget*>{txtBName_, accept, Check1_}) {
+        control->installEventFilter(this); // Enter accepts and Escape closes, whatever has the focus
+    }
     workspace::AssignMnemonics(*this);
 }
 
@@ -50,15 +53,18 @@ void frmBName::Ask(const QString& folder, const QWidget& button)
     activateWindow();
 }
 
-void frmBName::keyPressEvent(QKeyEvent* event)
+bool frmBName::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    const int key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent*>(event)->key() : 0;
+    if (key == Qt::Key_Return || key == Qt::Key_Enter) {
         Command1_Click();
-    } else if (event->key() == Qt::Key_Escape) {
-        close();
-    } else {
-        QWidget::keyPressEvent(event);
+        return true;
     }
+    if (key == Qt::Key_Escape) {
+        close();
+        return true;
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 // A folder that has a bookmark already only closes the window.

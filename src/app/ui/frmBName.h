@@ -28,7 +28,7 @@ public:
     void Ask(const QString& folder, const QWidget& button);
 
 protected:
-    void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override; // of the controls
 
 private:
     void Command1_Click(); // accept

@@ -4,9 +4,10 @@
 #include "app/ui/frmBName.h"
 
 #include <QAction>
+#include <QApplication>
+#include <QKeyEvent>
 #include <QListWidget>
 #include <QMenu>
-#include <QMouseEvent>
 #include <QScrollBar>
 #include <QShortcut>
 
@@ -47,7 +48,14 @@ QListWidget* frmBookmarks::NewList(const char* name, const QString& caption)
     // Both have the bar for sideways, or neither's rows would stand beside the other's.
     list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     list->installEventFilter(this);
-    list->viewport()->installEventFilter(this);
+    list->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(list, &QListWidget::customContextMenuRequested, this,
+            [this, list](const QPoint& at) { mnuPopup_->popup(list->viewport()->mapToGlobal(at)); });
+    connect(list, &QListWidget::itemPressed, this, [this, list](const QListWidgetItem* item) {
+        if (QApplication::mouseButtons() == Qt::LeftButton) {
+            Choose(list->row(item));
+        }
+    });
     return list;
 }
 
@@ -65,7 +73,7 @@ void frmBookmarks::AddMenu(windowing::OnTopGroup& onTop)
     QAction* const remove = AddCommand("mnuDelete", tr("Delete"));
     remove->setShortcut(QKeySequence::Delete); // shown only; the lists take the key
     remove->setShortcutContext(Qt::WidgetShortcut);
-    connect(remove, &QAction::triggered, this, &frmBookmarks::DeleteCurrent);
+    connect(remove, &QAction::triggered, this, &frmBookmarks::DeleteSelected);
     QAction* const top = AddCommand("mnuOnTop", tr("Always on Top"));
     onTop.Join(windowing::BookmarksOnTop, *this, *top);
     top->setChecked(state_.OnTopState == windowing::BookmarksOnTop);
@@ -101,38 +109,26 @@ void frmBookmarks::Choose(int position)
     }
 }
 
-void frmBookmarks::DeleteCurrent()
+void frmBookmarks::DeleteSelected()
 {
-    const int position = lstNames_->currentRow();
-    bookmarks_.RemoveAt(position);
-    ShowEntries();
-    SelectInBoth(qMin(position, lstNames_->count() - 1));
+    if (lstNames_->selectedItems().isEmpty()) {
+        return; // a list has a current entry as soon as it has the focus
+    }
+    bookmarks_.RemoveAt(lstNames_->currentRow());
+    ShowEntries(); // nothing is selected, so a Delete key that is held down takes no other with it
 }
 
 bool frmBookmarks::eventFilter(QObject* watched, QEvent* event)
 {
-    for (QListWidget* list : {lstNames_, lstBookmarks_}) {
-        if (watched == list->viewport() && event->type() == QEvent::MouseButtonPress) {
-            const auto* const press = static_cast<QMouseEvent*>(event);
-            const int position = list->row(list->itemAt(press->pos()));
-            if (press->button() == Qt::LeftButton) {
-                Choose(position);
-            } else if (press->button() == Qt::RightButton) {
-                SelectInBoth(position >= 0 ? position : list->currentRow());
-                mnuPopup_->popup(press->globalPosition().toPoint());
-            }
-        } else if (watched == list && event->type() == QEvent::KeyPress) {
-            const int key = static_cast<QKeyEvent*>(event)->key();
-            if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-                Choose(list->currentRow());
-                return true;
-            }
-            if (key == Qt::Key_Delete) {
-                DeleteCurrent();
-                return true;
-            }
-        } else if (watched == list && event->type() == QEvent::ContextMenu) {
-            mnuPopup_->popup(list->mapToGlobal(list->rect().center())); // by the keyboard
+    auto* const list = qobject_cast<QListWidget*>(watched);
+    if (list && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            Choose(list->currentRow());
+            return true;
+        }
+        if (key == Qt::Key_Delete) {
+            DeleteSelected();
             return true;
         }
     }

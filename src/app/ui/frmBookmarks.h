@@ -50,7 +50,7 @@ private:
     void ShowEntries();
     void SelectInBoth(int position);
     void Choose(int position);
-    void DeleteCurrent();
+    void DeleteSelected();
 
     model::AppState& state_;
     const platform::ProgramFolder& programFolder_;

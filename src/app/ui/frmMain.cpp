@@ -642,10 +642,17 @@ frmBookmarks& frmMain::Bookmarks()
 {
     if (!bookmarks_) {
         bookmarks_ = new frmBookmarks(
-            state_, programFolder_, [this](const QString& folder) { ftv_->SetSelectedFolder(folder); },
-            onTop_, this);
+            state_, programFolder_, [this](const QString& folder) { GoToFolder(folder); }, onTop_, this);
     }
     return *bookmarks_;
+}
+
+// During a scan no other folder can be chosen, nor by a bookmark.
+void frmMain::GoToFolder(const QString& folder)
+{
+    if (!gathering_.IsScanning()) {
+        ftv_->SetSelectedFolder(folder);
+    }
 }
 
 void frmMain::cmdBookmarks_Click()

@@ -117,6 +117,7 @@ private:
     void ApplyPreferences();
     void SaveSettingsFile();
     frmBookmarks& Bookmarks();
+    void GoToFolder(const QString& folder);
 
     // The commands of the buttons, by their names.
     void cmdRename_Click();
