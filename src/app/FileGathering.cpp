@@ -39,13 +39,25 @@ FileGathering::FileGathering(const ScannedList& mainList, model::AppState& state
     LVW_.SetSorted(true); // by name, so that each folder's files join the main list in that order
 }
 
+void FileGathering::ScanBegins()
+{
+    if (++scans_ == 1) {
+        view_.ScanBegins();
+    }
+}
+
+void FileGathering::ScanEnds()
+{
+    if (--scans_ == 0) {
+        view_.ScanEnds();
+    }
+}
+
 void FileGathering::Scan(fileview::Scanner& scanner)
 {
-    ++scans_;
-    view_.ScanBegins();
+    ScanBegins();
     scanner.Scan();
-    view_.ScanEnds();
-    --scans_;
+    ScanEnds();
 }
 
 bool FileGathering::EndIfClosing()
@@ -179,6 +191,7 @@ void FileGathering::SetMultipleFolders(bool on)
                  : QStringLiteral("Single Folder Select mode Selected"));
     lvw2_.Clear();
     settings_.Recursive = false;
+    ListReplaced();
 }
 
 void FileGathering::RebuildFileTypes()
@@ -239,7 +252,7 @@ void FileGathering::Stop()
 {
     scanner_.StopScan();
     scannerOfLVW_.StopScan();
-    if (!isMultiple_) {
+    if (!isMultiple_) { // a folder among several is applied when its scan has come back
         ApplyFolder(state_.LastFolder, true);
     }
 }
@@ -261,8 +274,20 @@ void FileGathering::ListClicked()
     view_.ShowCount(state_.CheckedCount);
 }
 
+void FileGathering::DropBegins()
+{
+    ScanBegins();
+}
+
+void FileGathering::DropEnds()
+{
+    ScanEnds();
+    EndIfClosing();
+}
+
 void FileGathering::FilesDropped()
 {
+    lvw2_.RemoveDuplicates(); // before the filters take their copy
     CheckAllIfWished();
     RefreshCheckedCount();
     view_.ShowCount(state_.CheckedCount);

@@ -103,8 +103,11 @@ public:
     // wished.
     void ListClicked();
 
-    // Files were dropped on the list.
+    // Files are dropped on the list: their folders are scanned, which a stop and a quit reach as any scan;
+    // the files are in the list; it is sorted, too.
+    void DropBegins();
     void FilesDropped();
+    void DropEnds();
 
     // The list start has put its files into the list: shows their number and types.
     void FilesHandedOver();
@@ -130,6 +133,8 @@ public:
     bool IsScanning() const { return scans_ > 0; }
 
 private:
+    void ScanBegins();
+    void ScanEnds();
     void Scan(fileview::Scanner& scanner);
     void EmptyList();
     void SortByFolder(bool byFolder);

@@ -118,9 +118,26 @@ QModelIndex FolderModel::IndexOf(const QString& path)
 
 void FolderModel::Refresh()
 {
+    QStringList checked;
+    CollectChecked(*top_, checked);
     beginResetModel();
     MakeTops();
     endResetModel();
+    for (const QString& path : checked) {
+        if (const QModelIndex index = IndexOf(path); index.isValid()) {
+            FolderOf(index)->isChecked = true;
+        }
+    }
+}
+
+void FolderModel::CollectChecked(const Folder& folder, QStringList& paths)
+{
+    if (folder.isChecked) {
+        paths << folder.path;
+    }
+    for (const auto& subfolder : folder.subfolders) {
+        CollectChecked(*subfolder, paths);
+    }
 }
 
 void FolderModel::SetShowsHidden(bool shows)
@@ -134,7 +151,9 @@ void FolderModel::SetShowsHidden(bool shows)
 void FolderModel::SetHasChecks(bool has)
 {
     hasChecks_ = has;
-    Refresh();
+    beginResetModel();
+    MakeTops();
+    endResetModel();
 }
 
 QModelIndex FolderModel::index(int row, int column, const QModelIndex& parent) const

@@ -7,6 +7,7 @@
 
 #include <QAbstractItemModel>
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 #include <vector>
@@ -39,7 +40,7 @@ public:
     // there is no such folder, or a hidden one while those aren't shown.
     QModelIndex IndexOf(const QString& path);
 
-    // Reads everything anew. Indexes become invalid; checks go.
+    // Reads everything anew. Indexes become invalid; folders that are still there keep their checks.
     void Refresh();
 
     // Folders whose names begin with a dot.
@@ -69,6 +70,7 @@ private:
     QModelIndex IndexOf(const Folder& folder) const;
     std::vector<std::unique_ptr<Folder>> ReadSubfolders(Folder& folder) const;
     void MakeTops();
+    static void CollectChecked(const Folder& folder, QStringList& paths);
 
     const std::vector<Top> tops_;
     std::unique_ptr<Folder> top_; // holds the entries at the top

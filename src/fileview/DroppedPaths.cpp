@@ -24,7 +24,11 @@ DropCounts TakeDrop(const QStringList& paths, FileList& list, Scanner& scanner, 
         const auto info = files.GetInfo(folder, name);
         if (info && info->isFolder) {
             ++counts.Folders;
+            const bool wasStopped = scanner.Stopped() && !clearsList; // by an earlier scan
             scanner.ScanPass(path, clearsList);
+            if (scanner.Stopped() && !wasStopped) {
+                break;
+            }
             continue;
         }
         ++counts.Files;

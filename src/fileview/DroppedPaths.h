@@ -21,7 +21,8 @@ struct DropCounts
 bool PassesFileSpec(const QString& path, const QString& FileSpec);
 
 // Takes dropped names in, in their order: folders by a scan pass each, which clears the list first if
-// `clearsList` is set; files that pass by a row each. The list should be locked; finish with FinishDrop.
+// `clearsList` is set; files that pass by a row each. A stop during a scan ends it all. The list should be
+// locked; finish with FinishDrop.
 DropCounts TakeDrop(const QStringList& paths, FileList& list, Scanner& scanner, const ScanSettings& settings,
                     bool clearsList);
 

@@ -29,6 +29,22 @@ Widget& Find(const QWidget& window, const QString& name)
     return *widget;
 }
 
+// Drags files and folders over a widget and lets them go there.
+inline void Drop(QWidget& target, const QStringList& paths)
+{
+    QMimeData data;
+    QList<QUrl> urls;
+    for (const QString& path : paths) {
+        urls << QUrl::fromLocalFile(path);
+    }
+    data.setUrls(urls);
+    QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(&target, &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QDropEvent drop({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(&target, &drop);
+}
+
 // Closes message boxes and answers file dialogs as soon as they show.
 class Answers final : public QObject
 {

@@ -7,13 +7,10 @@
 #include "ui/Desk.h"
 
 #include <QAbstractItemModelTester>
-#include <QDropEvent>
-#include <QMimeData>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
 #include <QToolTip>
-#include <QUrl>
 
 namespace {
 
@@ -85,17 +82,11 @@ protected:
 
     void Drop(const QStringList& names)
     {
-        QMimeData data;
-        QList<QUrl> urls;
+        QStringList paths;
         for (const QString& name : names) {
-            urls << QUrl::fromLocalFile(files.Path() + name);
+            paths << files.Path() + name;
         }
-        data.setUrls(urls);
-        QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
-        QApplication::sendEvent(view.viewport(), &enter);
-        ASSERT_TRUE(enter.isAccepted());
-        QDropEvent drop({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
-        QApplication::sendEvent(view.viewport(), &drop);
+        ui_tests::Drop(*view.viewport(), paths);
     }
 
     testing_support::TempFolder files;

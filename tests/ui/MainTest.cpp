@@ -61,7 +61,8 @@ protected:
         EXPECT_TRUE(button.isVisible() && button.isEnabled()) << name;
         QTest::mouseClick(&button, Qt::LeftButton, {}, {8, button.height() / 2});
     }
-    void Command(int number) { Main().findChild<QAction*>(u"command%1"_qs.arg(number))->trigger(); }
+    void Command(int number) { Choose(u"command%1"_qs.arg(number)); }
+    void Choose(const QString& entry) { Main().findChild<QAction*>(entry)->trigger(); }
 
     // Goes down to an entry with the keyboard.
     void GoTo(QAbstractItemView& view, const QString& entry)
@@ -190,8 +191,10 @@ TEST_F(Session, TypesSubfoldersAndSeveralFoldersReachTheList)
     EXPECT_EQ(Names(), u"a.mp3 b.mp3 c.txt"_qs);
     Click(Main(), "Check2");
     EXPECT_EQ(Names(), u"a.mp3 b.mp3 c.txt sub d.txt"_qs);
+    Choose(u"mnuSelectall"_qs);
+    EXPECT_EQ(Items(), u"5"_qs) << "the list's own menu counts, too";
     Click(Main(), "Check6");
-    EXPECT_EQ(Names(), QString());
+    EXPECT_EQ(Names() + Items(), u"0"_qs);
     EXPECT_FALSE(In(Main(), "Check2").isEnabled() || In<QCheckBox>(Main(), "Check2").isChecked());
     for (const auto& [folder, names] :
          {std::pair(u"Music"_qs, u"a.mp3 b.mp3 c.txt sub"_qs),
@@ -199,7 +202,24 @@ TEST_F(Session, TypesSubfoldersAndSeveralFoldersReachTheList)
         GoToFolder(folder);
         QTest::keyClick(&In(Main(), "ftv"), Qt::Key_Space);
         EXPECT_EQ(Names(), names);
+        Command(1030); // what is checked and open stays so
     }
+}
+
+TEST_F(Session, TheFolderThatIsCurrentIsReadAgainByAClick)
+{
+    Start();
+    GoToFolder(u"Music"_qs);
+    home.Write(u"Music/new.txt"_qs);
+    auto& tree = In<QTreeView>(Main(), "ftv");
+    const auto at = [&tree] {
+        return tree.visualRect(tree.currentIndex()).center();
+    };
+    const auto searches = Log().count(u"Searching "_qs);
+    QTest::mouseClick(tree.viewport(), Qt::LeftButton, {}, at());
+    QTest::mouseDClick(tree.viewport(), Qt::LeftButton, {}, at()); // which opens it
+    EXPECT_TRUE(Names().contains(u"new.txt"_qs) && tree.isExpanded(tree.currentIndex()));
+    EXPECT_EQ(Log().count(u"Searching "_qs), searches + 1) << "by the first click alone";
 }
 
 TEST_F(Session, AListStartShowsItsFilesInBothWindows)
@@ -233,6 +253,30 @@ TEST_F(Session, AQuitDuringAScanEndsTheProgramOnceTheScanIsBack)
     EXPECT_TRUE(program.Exists(u"Quillmark.ini"_qs));
 }
 
+TEST_F(Session, ADropIsAScanLikeAnyOther)
+{
+    Start();
+    Click(Main(), "cmdRename");
+    auto& list = In<fileview::ListViewEditable>(Main(), "lvw2");
+    const auto drop = [&](const QStringList& folders) {
+        QStringList paths;
+        for (const QString& folder : folders) {
+            paths << home.Path() + folder;
+        }
+        ui_tests::Drop(*list.ListView().viewport(), paths);
+    };
+    drop({u"Other"_qs, u"Other/e.txt"_qs});
+    QTest::keyClicks(&In(Main(), "txtFilter"), u"e."_qs);
+    EXPECT_EQ(Names(), u"e.txt"_qs) << "what the filters read from has it once";
+    QObject::connect(&list, &fileview::ListViewEditable::SearchDirChange, &list, [&] {
+        EXPECT_FALSE(windows->Renamer().isEnabled());
+        Click(Main(), "cmdQuit");
+    });
+    drop({u"Music/sub"_qs, u"Music"_qs});
+    EXPECT_TRUE(ended == 1 && !Names().contains(u"a.mp3"_qs));
+    EXPECT_TRUE(windows->Renamer().isEnabled());
+}
+
 TEST_F(Session, FileListsAreKeptByTheMenuAndByTheManager)
 {
     Start();
@@ -254,7 +298,7 @@ TEST_F(Session, FileListsAreKeptByTheMenuAndByTheManager)
     EXPECT_EQ(program.Content(u"FileLists/tape.lst"_qs), (home.Path() + u"Music/a.mp3\r\n"_qs).toUtf8());
 
     answers.fileToChoose = home.Path() + u"saved.lst"_qs;
-    Command(2002);
+    Choose(u"mnuFSave"_qs);
     program.Write(u"FileLists/tape.lst"_qs,
                   (home.Path() + u"gone\r\n"_qs + home.Path() + u"Other/e.txt\r\n"_qs).toUtf8());
     In<QListWidget>(manager, "list1").setCurrentRow(0);
@@ -262,10 +306,10 @@ TEST_F(Session, FileListsAreKeptByTheMenuAndByTheManager)
     EXPECT_EQ(answers.TakeMessages().join(u'|'),
               u"File Lists: "_qs + home.Path() + u"gone does not exist"_qs);
     EXPECT_TRUE(!manager.isVisible() && Rows().Count() == 2 && Items() == u"0"_qs);
-    Command(2001);
+    Choose(u"mnuFLoad"_qs);
     EXPECT_EQ(Names() + Items(), u"a.mp31"_qs);
     answers.fileToChoose = home.Path() + u"Other/e.txt"_qs;
-    Command(2001);
+    Choose(u"mnuFLoad"_qs);
     EXPECT_EQ(answers.TakeMessages().join(u'|'), u"Tarnwick: Invalid File"_qs);
     EXPECT_EQ(Names(), u"a.mp3"_qs);
 }
@@ -290,8 +334,10 @@ TEST_F(Session, BookmarksAreNamedChosenAndKept)
     });
     add(u"Music"_qs, accept); // it has one
     add(u"Other"_qs, [](QWidget& window) { QTest::keyClick(window.focusWidget(), Qt::Key_Escape); });
+    Click(Main(), "cmdPref");
     add(u"Other"_qs, [&](QWidget& window) {
         Click(window, "Check1");
+        EXPECT_FALSE(In<QCheckBox>(In(Main(), "frmPref"), "chkBkr").isChecked());
         accept(window);
     });
     GoToFolder(u"Music"_qs);

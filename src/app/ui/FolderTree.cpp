@@ -5,6 +5,7 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QStyledItemDelegate>
 
@@ -46,6 +47,11 @@ FolderTree::FolderTree(QWidget* parent) : QTreeView(parent)
             Q_EMIT FolderSelected(model_.PathOf(current));
         }
     });
+    connect(this, &QTreeView::clicked, this, [this](const QModelIndex& folder) {
+        if (folder == pressed_) {
+            Q_EMIT FolderSelected(model_.PathOf(folder));
+        }
+    });
     connect(&model_, &FolderModel::FolderChecked, this, &FolderTree::FolderChecked);
 }
 
@@ -64,12 +70,29 @@ void FolderTree::SetSelectedFolder(const QString& path)
 }
 
 template<class Change>
-void FolderTree::KeepingFolder(Change change)
+void FolderTree::KeepingFolders(Change change)
 {
     const QString folder = SelectedFolder();
+    QStringList open;
+    CollectOpen({}, open);
     const QScopedValueRollback keeping(isKeeping_, true);
     change();
+    for (const QString& path : open) {
+        expand(model_.IndexOf(path));
+    }
     SetSelectedFolder(folder);
+}
+
+// Those above come before those below.
+void FolderTree::CollectOpen(const QModelIndex& parent, QStringList& paths) const
+{
+    for (int row = 0; row < model_.rowCount(parent); ++row) {
+        const QModelIndex folder = model_.index(row, 0, parent);
+        if (isExpanded(folder)) {
+            paths << model_.PathOf(folder);
+            CollectOpen(folder, paths);
+        }
+    }
 }
 
 // The column is as wide as its longest name, and as the view.
@@ -89,19 +112,33 @@ void FolderTree::keyPressEvent(QKeyEvent* event)
     }
 }
 
+void FolderTree::mousePressEvent(QMouseEvent* event)
+{
+    const QModelIndex folder = indexAt(event->position().toPoint());
+    pressed_ = folder == currentIndex() ? folder : QModelIndex();
+    QTreeView::mousePressEvent(event);
+}
+
+// Opens or closes a folder, and doesn't choose it once more.
+void FolderTree::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    pressed_ = QModelIndex();
+    QTreeView::mouseDoubleClickEvent(event);
+}
+
 void FolderTree::SetCheckBoxes(bool on)
 {
-    KeepingFolder([&] { model_.SetHasChecks(on); });
+    KeepingFolders([&] { model_.SetHasChecks(on); });
 }
 
 void FolderTree::SetShowsHidden(bool shows)
 {
-    KeepingFolder([&] { model_.SetShowsHidden(shows); });
+    KeepingFolders([&] { model_.SetShowsHidden(shows); });
 }
 
 void FolderTree::RefreshFolders()
 {
-    KeepingFolder([this] { model_.Refresh(); });
+    KeepingFolders([this] { model_.Refresh(); });
 }
 
 } // namespace app

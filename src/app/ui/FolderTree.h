@@ -26,25 +26,30 @@ public:
     void SetCheckBoxes(bool on);
     void SetShowsHidden(bool shows);
 
-    // Reads all folders again; the current one stays current.
+    // Reads all folders again. The current one, checks and what is open stay.
     void RefreshFolders();
 
 Q_SIGNALS:
-    // Another folder became current, or Enter was pressed on the current one.
+    // Another folder became current, or the current one was chosen again by a click or by Enter.
     void FolderSelected(const QString& path);
     void FolderChecked(const QString& path, bool checked);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    // Does something that makes all indexes invalid, and finds the current folder again without a signal.
+    // Does something that makes all indexes invalid, and finds the current folder and those that are open
+    // again, without a signal.
     template<class Change>
-    void KeepingFolder(Change change);
+    void KeepingFolders(Change change);
+    void CollectOpen(const QModelIndex& parent, QStringList& paths) const;
 
     FolderModel model_;
     bool isKeeping_ = false;
+    QPersistentModelIndex pressed_; // the folder that was current already when the mouse went down on it
 };
 
 } // namespace app

@@ -96,9 +96,8 @@ void Windows::HandOverFiles()
 void Windows::ShowRenamer()
 {
     workspace::frmRenamer& renamer = Renamer();
-    if (!renamer.isVisible()) {
-        workspace::CentreOnScreen(renamer);
-    }
+    renamer.setWindowState(Qt::WindowNoState); // before it is centred, which needs its normal size
+    workspace::CentreOnScreen(renamer);
     workspace::BringUp(renamer);
     program_.workspace.RefillIfChanged(!commandLine_.isEmpty());
 }

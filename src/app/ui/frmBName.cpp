@@ -28,8 +28,10 @@ frmBName::frmBName(Bookmarks& bookmarks, model::AppState& state, std::function<v
     Check1_ = workspace::NewCheckBox(QLatin1String("Check1"), tr("Don't Ask Names"));
     column->addWidget(Check1_);
     connect(accept, &QPushButton::clicked, this, &frmBName::Command1_Click);
-    connect(Check1_, &QCheckBox::clicked, this,
-            [this](bool on) { state_.DontAskBookmarkNames = on ? 1 : 0; });
+    connect(Check1_, &QCheckBox::clicked, this, [this](bool on) {
+        state_.DontAskBookmarkNames = on ? 1 : 0;
+        Q_EMIT AskingChanged(!on);
+    });
     for (QWidget* control : std::initializer_list<QWidget*>{txtBName_, accept, Check1_}) {
         control->installEventFilter(this); // Enter accepts and Escape closes, whatever has the focus
     }

@@ -30,6 +30,9 @@ public:
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override; // of the controls
 
+Q_SIGNALS:
+    void AskingChanged(bool asks); // a click on "Don't Ask Names"
+
 private:
     void Command1_Click(); // accept
 

@@ -141,6 +141,7 @@ void frmBookmarks::Add(const QString& folder, const QWidget& button)
         if (!asker_) {
             asker_ = new frmBName(
                 bookmarks_, state_, [this] { ShowEntries(); }, parentWidget());
+            connect(asker_, &frmBName::AskingChanged, this, &frmBookmarks::AskingChanged);
         }
         asker_->Ask(folder, button);
     } else if (bookmarks_.Add(bookmarks_.NextName(), folder)) {

@@ -38,6 +38,9 @@ public:
     // Writes the file; one that can't be written is passed over. Closing the window does the same.
     void Save() const;
 
+Q_SIGNALS:
+    void AskingChanged(bool asks); // whether a new bookmark's name is asked for
+
 protected:
     void resizeEvent(QResizeEvent* event) override;
     void closeEvent(QCloseEvent* event) override;

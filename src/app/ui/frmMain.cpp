@@ -2,6 +2,7 @@
 #include "app/ui/frmMain.h"
 
 #include "app/FileListFile.h"
+#include "app/ui/MainMenu.h"
 #include "app/ui/frmBookmarks.h"
 #include "app/ui/frmHelp.h"
 #include "app/ui/frmListMan.h"
@@ -50,60 +51,6 @@ constexpr int LeastHeight = 9'900;
 // Shares of the list's width in percent, by column.
 constexpr std::array ColumnShares{25, 25, 10, 20, 20};
 
-// The commands of the menus, by the numbers under which they have always been known.
-enum Command {
-    Quit = 1029,
-    RefreshFolders = 1030,
-    ViewReport = 1031,
-    ViewIcons = 1032,
-    ViewList = 1033,
-    OpenPreferences = 1035,
-    OpenReadme = 1039,
-    About = 1040,
-    Rename = 1043,
-    SaveSettings = 1047,
-    Attributes = 1052,
-    LoadList = 2001, // not numbered before
-    SaveList = 2002,
-};
-
-struct MenuCommand
-{
-    const char* menu;
-    int id;
-    const char* text;
-    const char* keys = "";
-};
-
-constexpr std::array MenuCommands{
-    MenuCommand{QT_TR_NOOP("&File"), Rename, QT_TR_NOOP("&Rename..."), "F2"},
-    MenuCommand{QT_TR_NOOP("&File"), Attributes, QT_TR_NOOP("&Attributes...")},
-    MenuCommand{QT_TR_NOOP("&File"), RefreshFolders, QT_TR_NOOP("Re&fresh Folders"), "F5"},
-    MenuCommand{QT_TR_NOOP("&File"), SaveSettings, QT_TR_NOOP("&Save Settings")},
-    MenuCommand{QT_TR_NOOP("&File"), Quit, QT_TR_NOOP("&Quit"), "Ctrl+Q"},
-    MenuCommand{QT_TR_NOOP("File&List"), LoadList, QT_TR_NOOP("&Load File List")},
-    MenuCommand{QT_TR_NOOP("File&List"), SaveList, QT_TR_NOOP("&Save File List")},
-    MenuCommand{QT_TR_NOOP("&View"), ViewReport, QT_TR_NOOP("&Report"), "Ctrl+1"},
-    MenuCommand{QT_TR_NOOP("&View"), ViewIcons, QT_TR_NOOP("&Icons"), "Ctrl+2"},
-    MenuCommand{QT_TR_NOOP("&View"), ViewList, QT_TR_NOOP("&List"), "Ctrl+3"},
-    MenuCommand{QT_TR_NOOP("&Tools"), OpenPreferences, QT_TR_NOOP("&Preferences...")},
-    MenuCommand{QT_TR_NOOP("&Help"), OpenReadme, QT_TR_NOOP("&Readme"), "F1"},
-    MenuCommand{QT_TR_NOOP("&Help"), About, QT_TR_NOOP("&About")},
-};
-
-struct ViewMode
-{
-    int command;
-    int view;
-    QLatin1String name; // as it is stored
-};
-
-constexpr std::array ViewModes{
-    ViewMode{ViewReport, fileview::lvwReport, QLatin1String("Report")},
-    ViewMode{ViewIcons, fileview::lvwSmallIcon, QLatin1String("Icons")},
-    ViewMode{ViewList, fileview::lvwList, QLatin1String("List")},
-};
-
 workspace::DocumentKind FileListKind()
 {
     return {frmMain::tr("List (*.lst)"), QStringLiteral("lst")};
@@ -127,7 +74,9 @@ frmMain::frmMain(const Surroundings& surroundings, Collaborators collaborators)
     setMinimumSize(LeastWidth / TwipsPerPixel, LeastHeight / TwipsPerPixel);
     resize(960, 720);
     ApplySkin();
-    MakeMenus();
+    menus_ = new QMenuBar(this);
+    menus_->setNativeMenuBar(false);
+    commands_ = FillMenus(*menus_, [this](int command) { RunCommand(command); });
     auto* panes = new QSplitter(this);
     panes->setObjectName(QStringLiteral("panes"));
     panes->addWidget(NewFolderPane());
@@ -163,27 +112,6 @@ void frmMain::ApplySkin()
     const auto lines = platform::ReadLines(programFolder_.PathOf(QStringLiteral("Quillmark.qss")));
     if (lines) {
         qApp->setStyleSheet(lines->join(u'\n'));
-    }
-}
-
-void frmMain::MakeMenus()
-{
-    menus_ = new QMenuBar(this);
-    menus_->setNativeMenuBar(false);
-    std::map<QString, QMenu*> menus;
-    for (const MenuCommand& command : MenuCommands) {
-        QMenu*& menu = menus[tr(command.menu)];
-        if (!menu) {
-            menu = menus_->addMenu(tr(command.menu));
-        }
-        QAction* const action =
-            menu->addAction(tr(command.text), this, [this, id = command.id] { RunCommand(id); });
-        action->setShortcut(QKeySequence(QLatin1String(command.keys)));
-        action->setObjectName(QStringLiteral("command%1").arg(command.id));
-        commands_[command.id] = action;
-    }
-    for (const ViewMode& mode : ViewModes) {
-        commands_[mode.command]->setCheckable(true);
     }
 }
 
@@ -231,167 +159,6 @@ void frmMain::RunCommand(int id)
     }
 }
 
-QPushButton* frmMain::AddButton(QBoxLayout& row, const char* name, const QString& caption,
-                                const QString& tooltip, void (frmMain::*command)())
-{
-    auto* button = new QPushButton(caption, this);
-    button->setObjectName(QLatin1String(name));
-    button->setToolTip(tooltip);
-    button->setAutoDefault(false);
-    connect(button, &QPushButton::clicked, this, command);
-    row.addWidget(button);
-    return button;
-}
-
-QCheckBox* frmMain::AddBox(QBoxLayout& row, const char* name, const QString& caption, const QString& tooltip)
-{
-    auto* box = new QCheckBox(caption, this);
-    box->setObjectName(QLatin1String(name));
-    box->setToolTip(tooltip);
-    row.addWidget(box);
-    return box;
-}
-
-QWidget* frmMain::NewFolderPane()
-{
-    auto* pane = new QWidget(this);
-    auto* column = new QVBoxLayout(pane);
-    column->setContentsMargins(9, 6, 3, 3);
-    ftv_ = new FolderTree(pane);
-    ftv_->setObjectName(QStringLiteral("ftv"));
-    ftv_->setAccessibleName(tr("Folders"));
-    ftv_->setToolTip(tr("Select drawing folder(s)"));
-    connect(ftv_, &FolderTree::FolderSelected, this,
-            [this](const QString& folder) { gathering_.FolderSelected(folder); });
-    connect(ftv_, &FolderTree::FolderChecked, this,
-            [this](const QString& folder, bool checked) { gathering_.FolderChecked(folder, checked); });
-    column->addWidget(ftv_, 1);
-    Check2_ = AddBox(*column, "Check2", tr("&Search Subfolders"), {});
-    Check6_ = AddBox(*column, "Check6", tr("Multiple Folder Select Mode"), {});
-    auto* row = new QHBoxLayout;
-    AddButton(*row, "Command2", tr("Re&fresh Folders"),
-              tr("Click to Refresh folder view in case of addition/deletion of folder(s)."),
-              &frmMain::Command2_Click);
-    AddButton(*row, "cmdBookmarks", tr("BookMarks"), tr("Manage/Load Your Bookmarks"),
-              &frmMain::cmdBookmarks_Click);
-    Command5_ = AddButton(*row, "Command5", QStringLiteral("+"), tr("Add Selected Folder to BookMarks"),
-                          &frmMain::Command5_Click);
-    Command5_->setAccessibleName(Command5_->toolTip());
-    column->addLayout(row);
-    connect(Check2_, &QCheckBox::toggled, this, [this](bool on) {
-        const QCursor pointer = cursor();
-        setCursor(Qt::WaitCursor);
-        gathering_.SearchSubfolders(on);
-        setCursor(pointer);
-    });
-    connect(Check6_, &QCheckBox::toggled, this, [this](bool on) {
-        {
-            const QSignalBlocker blocker(Check2_);
-            Check2_->setChecked(false);
-        }
-        Check2_->setEnabled(!on);
-        ftv_->SetCheckBoxes(on);
-        gathering_.SetMultipleFolders(on);
-    });
-    return pane;
-}
-
-QWidget* frmMain::NewListPane()
-{
-    auto* pane = new QWidget(this);
-    auto* column = new QVBoxLayout(pane);
-    column->setContentsMargins(3, 6, 9, 3);
-    auto* filters = new QHBoxLayout;
-    QGroupBox* types = workspace::NewFrame(QLatin1String("FrameType"), tr("File Type"));
-    cmbFileType_ = new QComboBox(types);
-    cmbFileType_->setObjectName(QStringLiteral("cmbFileType"));
-    cmbFileType_->setAccessibleName(tr("File Type"));
-    cmbFileType_->setMinimumContentsLength(18);
-    workspace::PassWheelWithoutFocus(*cmbFileType_);
-    workspace::ColumnOf(*types).addWidget(cmbFileType_);
-    filters->addWidget(types);
-    QGroupBox* names = workspace::NewFrame(QLatin1String("FrameFilter"), tr("Filter Filenames"));
-    txtFilter_ = workspace::NewBox(QStringLiteral("txtFilter"), 0, tr("Filter Filenames"));
-    txtFilter_->setToolTip(tr("Filter select files"));
-    workspace::ColumnOf(*names).addWidget(txtFilter_);
-    filters->addWidget(names, 1);
-    column->addLayout(filters);
-
-    lvw2_->setParent(pane);
-    lvw2_->setObjectName(QStringLiteral("lvw2"));
-    lvw2_->ListView().setToolTip(tr("File view window with drag-drop. Right click for options."));
-    lvw2_->SetEmptyText(tr("No files here"));
-    column->addWidget(lvw2_, 1);
-
-    auto* counts = new QHBoxLayout;
-    Check1_ = AddBox(*counts, "Check1", tr("&Check All"), tr("Check all files in File view"));
-    counts->addSpacing(12);
-    auto* hint = workspace::NewHint(tr("Right Click fileview for options"));
-    hint->setObjectName(QStringLiteral("Label2"));
-    hint->setWordWrap(false);
-    counts->addWidget(hint);
-    counts->addStretch(1);
-    txtPlot_ = workspace::NewBox(QStringLiteral("txtPlot"), 7, tr("Number of files"));
-    txtPlot_->setReadOnly(true);
-    txtPlot_->setAlignment(Qt::AlignRight);
-    counts->addWidget(txtPlot_);
-    auto* items = new QLabel(tr("items"), pane);
-    items->setObjectName(QStringLiteral("Label4"));
-    counts->addWidget(items);
-    column->addLayout(counts);
-    return pane;
-}
-
-QWidget* frmMain::NewBottomPane()
-{
-    auto* pane = new QWidget(this);
-    pane->setObjectName(QStringLiteral("bottom"));
-    auto* column = new QVBoxLayout(pane);
-    column->setContentsMargins(9, 3, 9, 6);
-    auto* buttons = new QHBoxLayout;
-    notWhileScanning_ = {
-        AddButton(*buttons, "cmdRename", tr("&Rename"), tr("Click to bring up the Renamer Window"),
-                  &frmMain::cmdRename_Click),
-        AddButton(*buttons, "Command1", tr("&Attributes"), tr("Click to Change Attributes."),
-                  &frmMain::Command1_Click),
-        AddButton(*buttons, "Command8", tr("Filelists"), tr("Manage/Load Your File Lists"),
-                  &frmMain::Command8_Click),
-        AddButton(*buttons, "cmdPref", tr("Preferences"), tr("Set the Options"), &frmMain::cmdPref_Click),
-    };
-    cmdStopSrch_ = AddButton(*buttons, "cmdStopSrch", tr("S&top Search"),
-                             tr("Click to Stop Searching the Subfolders."), &frmMain::cmdStopSrch_Click);
-    buttons->addStretch(1);
-    chkOnTop_ = AddBox(*buttons, "chkOnTop", tr("On Top"), tr("Select to make this window topmost."));
-    AddButton(*buttons, "cmdQuit", tr("&Quit"), tr("Click to Exit "), &frmMain::cmdQuit_Click);
-    column->addLayout(buttons);
-
-    Text2_ = new QPlainTextEdit(pane);
-    Text2_->setObjectName(QStringLiteral("Text2"));
-    Text2_->setAccessibleName(tr("Log"));
-    Text2_->setReadOnly(true);
-    Text2_->setTabChangesFocus(true);
-    Text2_->setFixedHeight(Text2_->fontMetrics().lineSpacing() * 4 + 12);
-    column->addWidget(Text2_);
-
-    auto* status = new QHBoxLayout;
-    Label10_ = new QLabel(QStringLiteral("Ready"), pane);
-    Label10_->setObjectName(QStringLiteral("Label10"));
-    Label10_->setMinimumWidth(fontMetrics().horizontalAdvance(tr("Changing Attributes...")) + 12);
-    ProgBarM_ = new QProgressBar(pane);
-    ProgBarM_->setObjectName(QStringLiteral("ProgBarM"));
-    ProgBarM_->setAccessibleName(tr("Progress"));
-    ProgBarM_->setValue(0);
-    ProgBarM_->setTextVisible(false);
-    Label1_ = new QLabel(pane);
-    Label1_->setObjectName(QStringLiteral("Label1"));
-    status->addWidget(Label10_);
-    status->addWidget(ProgBarM_, 1);
-    status->addSpacing(12);
-    status->addWidget(Label1_);
-    column->addLayout(status);
-    return pane;
-}
-
 void frmMain::ConnectList()
 {
     using fileview::ListProperties;
@@ -404,6 +171,9 @@ void frmMain::ConnectList()
     connect(lvw2_, &ListViewEditable::ColumnClick, this, [this] { gathering_.RefreshCheckedCount(); });
     connect(lvw2_, &ListViewEditable::KeyDown, this, [this] { gathering_.RefreshCheckedCount(); });
     connect(lvw2_, &ListViewEditable::OLEDragDrop, this, [this] { gathering_.FilesDropped(); });
+    connect(lvw2_, &ListViewEditable::MenuCommandDone, this, [this] { gathering_.ListClicked(); });
+    connect(lvw2_, &ListViewEditable::DropBegins, this, [this] { gathering_.DropBegins(); });
+    connect(lvw2_, &ListViewEditable::DropEnds, this, [this] { gathering_.DropEnds(); });
     connect(lvw2_, &ListViewEditable::Resize, this, &frmMain::FitColumns);
     connect(Check1_, &QCheckBox::toggled, this, [this](bool on) {
         Check1_->setText(on ? tr("Un&check All") : tr("&Check All"));
@@ -441,6 +211,9 @@ void frmMain::FitColumns()
 
 void frmMain::Load()
 {
+    // Before the first scan, during which a person may already get to see the window.
+    anchor_ = new windowing::Anchor(*this, QStringLiteral("AnchorCtrl,Positions,frmMain,1110|540"));
+    anchor_->DoInit(LeastHeight, LeastWidth);
     const auto* mode = std::find_if(ViewModes.begin(), ViewModes.end(),
                                     [this](const ViewMode& each) { return state_.ViewMode == each.name; });
     SetViewMode(mode == ViewModes.end() ? static_cast<int>(ViewReport) : mode->command);
@@ -457,8 +230,6 @@ void frmMain::Load()
         return; // a person quit meanwhile
     }
     lvw2_->Set(&fileview::ListProperties::ClearOnDragDrop, state_.ClearOnDragDrop);
-    anchor_ = new windowing::Anchor(*this, QStringLiteral("AnchorCtrl,Positions,frmMain,1110|540"));
-    anchor_->DoInit(LeastHeight, LeastWidth);
     if (state_.AllSelected == 1) {
         rows_.SetCheckedAll(true);
         ShowAllChecked();
@@ -541,16 +312,29 @@ void frmMain::Log(const QString& line)
     Text2_->moveCursor(QTextCursor::End);
 }
 
-// During a scan a person can stop it and quit, and nothing else.
+// During a scan a person can stop it and quit, and nothing else, in no window.
 void frmMain::ScanBegins()
 {
-    focusBeforeScan_ = focusWidget();
     SetStopStandsOut(true);
     for (QWidget* widget : notWhileScanning_) {
-        widget->setEnabled(false);
+        Pause(*widget);
+    }
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        const bool isWindow = window->windowType() == Qt::Window || window->windowType() == Qt::Dialog;
+        if (window != this && isWindow && window->isVisible()) {
+            Pause(*window);
+        }
     }
     for (const auto& [id, command] : commands_) {
         command->setEnabled(id == Quit);
+    }
+}
+
+void frmMain::Pause(QWidget& widget)
+{
+    if (widget.isEnabled()) {
+        paused_.push_back({&widget, widget.window()->focusWidget()});
+        widget.setEnabled(false);
     }
 }
 
@@ -559,12 +343,17 @@ void frmMain::ScanEnds()
     for (const auto& [id, command] : commands_) {
         command->setEnabled(true);
     }
-    for (QWidget* widget : notWhileScanning_) {
-        widget->setEnabled(true);
+    const auto paused = std::exchange(paused_, {});
+    for (const Paused& each : paused) {
+        if (each.widget) {
+            each.widget->setEnabled(true);
+        }
     }
     SetStopStandsOut(false);
-    if (focusBeforeScan_ && focusWidget() != focusBeforeScan_) {
-        focusBeforeScan_->setFocus();
+    for (const Paused& each : paused) {
+        if (each.focus && each.focus->window()->focusWidget() != each.focus) {
+            each.focus->setFocus();
+        }
     }
 }
 
@@ -643,6 +432,11 @@ frmBookmarks& frmMain::Bookmarks()
     if (!bookmarks_) {
         bookmarks_ = new frmBookmarks(
             state_, programFolder_, [this](const QString& folder) { GoToFolder(folder); }, onTop_, this);
+        connect(bookmarks_, &frmBookmarks::AskingChanged, this, [this](bool asks) {
+            if (pref_) {
+                pref_->ShowAsksForNames(asks);
+            }
+        });
     }
     return *bookmarks_;
 }

@@ -88,6 +88,13 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    // What is disabled while a scan runs, with what had the focus in its window.
+    struct Paused
+    {
+        QPointer<QWidget> widget;
+        QPointer<QWidget> focus;
+    };
+
     // GatheringView.
     void Log(const QString& line) override;
     void ScanBegins() override;
@@ -98,7 +105,6 @@ private:
     void RefreshRenameView() override;
     void EndProgram() override;
 
-    void MakeMenus();
     QWidget* NewFolderPane();
     QWidget* NewListPane();
     QWidget* NewBottomPane();
@@ -114,6 +120,7 @@ private:
     void SetViewMode(int id);
     void ChooseType(const QString& type);
     void SetStopStandsOut(bool standsOut);
+    void Pause(QWidget& widget);
     void ApplyPreferences();
     void SaveSettingsFile();
     frmBookmarks& Bookmarks();
@@ -161,7 +168,7 @@ private:
     QLabel* Label10_ = nullptr;
     QProgressBar* ProgBarM_ = nullptr;
     std::vector<QWidget*> notWhileScanning_;
-    QPointer<QWidget> focusBeforeScan_;
+    std::vector<Paused> paused_; // by the scan that runs
     windowing::Anchor* anchor_ = nullptr;
     frmPref* pref_ = nullptr; // made on first use
     frmBookmarks* bookmarks_ = nullptr;

@@ -201,6 +201,11 @@ void frmPref::Open()
     workspace::BringUp(*this);
 }
 
+void frmPref::ShowAsksForNames(bool asks)
+{
+    chkBkr_->setChecked(asks);
+}
+
 void frmPref::SaveSettings()
 {
     if (isVisible()) {

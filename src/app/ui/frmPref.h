@@ -37,6 +37,9 @@ public:
     // Puts the window on show with what holds now. If it is on show already, it comes to the front as it is.
     void Open();
 
+    // A click elsewhere has said whether a new bookmark's name is asked for.
+    void ShowAsksForNames(bool asks);
+
     // Takes the options from the boxes, if the window is open, and writes the settings file.
     void SaveSettings();
 

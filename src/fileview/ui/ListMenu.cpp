@@ -49,7 +49,10 @@ void ListViewEditable::MakeMenu()
         }
     }
     const auto on = [this](const char* name, auto command) {
-        connect(menu_->findChild<QAction*>(QLatin1String(name)), &QAction::triggered, this, command);
+        connect(menu_->findChild<QAction*>(QLatin1String(name)), &QAction::triggered, this, [this, command] {
+            command();
+            Q_EMIT MenuCommandDone();
+        });
     };
     on("mnuOpen", [this] { OpenRow(rows_, SelectedItem()); });
     on("mnuExplore", [this] { ExploreRow(rows_, SelectedItem()); });

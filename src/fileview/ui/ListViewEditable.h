@@ -146,6 +146,9 @@ Q_SIGNALS:
     void MouseDown(int Button, int Shift, int X, int Y);
     void MouseMove(int Button, int Shift, int X, int Y);
     void MouseUp(int Button, int Shift, int X, int Y);
+    void MenuCommandDone(); // which may have changed checks, without an event of its own
+    void DropBegins();      // before dropped folders are scanned
+    void DropEnds();        // the list is sorted
     void OLEDragDrop(const QMimeData* Data, int Effect, int Button, int Shift, int X, int Y);
 
 protected:

@@ -9,12 +9,13 @@
 namespace workspace {
 
 // Puts a window on show in front of the others, with the focus. The first time it comes up in the middle of
-// its owner; afterwards it stays where a person has put it.
+// its owner; afterwards it stays where a person has put it. A minimised one gets its size back.
 inline void BringUp(QWidget& window)
 {
     if (!window.testAttribute(Qt::WA_Moved) && window.parentWidget()) {
         window.move(window.parentWidget()->window()->geometry().center() - window.rect().center());
     }
+    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
     window.show();
     window.raise();
     window.activateWindow();
