@@ -8,7 +8,6 @@ namespace metadata {
 namespace {
 
 constexpr int FirstId = -2;
-constexpr int OtherGenre = 12;
 constexpr const char16_t* UnknownName = u"Unknown";
 
 // From -2 on.

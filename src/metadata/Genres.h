@@ -8,6 +8,7 @@
 
 namespace metadata {
 
+constexpr int OtherGenre = 12;
 constexpr int UnknownGenre = 255;
 
 // The name of a genre; empty for a number that has none.

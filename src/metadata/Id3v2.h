@@ -20,10 +20,18 @@ struct Id3v2Header
     bool isCompressed = false; // its frames can't be read
     bool hasExtendedHeader = false;
     bool hasFooter = false;
-    qint64 size = 0; // of what follows the header, without a footer; 0 if it is compressed
+    qint64 size = 0; // of what follows the header, without a footer
 };
 
-constexpr qint64 Id3v2HeaderSize = 10;
+constexpr qint64 Id3v2HeaderSize = 10; // and that of a footer
+
+// Bits of a header.
+enum Id3v2Flag {
+    UnsynchronisationFlag = 128,
+    CompressionFlag = 64,    // below version 2.3
+    ExtendedHeaderFlag = 64, // from version 2.3 on
+    FooterFlag = 16,         // from version 2.4 on
+};
 
 // Nothing if the bytes are no tag's start.
 std::optional<Id3v2Header> ReadId3v2Header(QByteArrayView bytes);
@@ -33,6 +41,10 @@ qint64 ReadSize(QByteArrayView bytes, bool isBase128);
 
 // Takes out the byte 0 behind each byte FF.
 QByteArray UndoUnsync(QByteArrayView bytes);
+
+// The bytes of the frames and what is behind them: `body`, which follows the header and may be shorter than
+// that says, without unsynchronisation and extended header. None if the tag is compressed.
+QByteArray FramesOf(const Id3v2Header& header, const QByteArray& body);
 
 // Reads the frames into `tags`. `body` is what follows the header; it may be shorter than the header says. A
 // tag that isn't as it should be ends at that place, and what was read stays.

@@ -63,14 +63,76 @@ void SetIfEmpty(QString& property, const QString& text)
     }
 }
 
-// The text of a version 1 block: what lies behind the last beginning in the bytes before `audioEnd`. Its last
-// eleven characters lie behind the bytes that are searched, and are lost.
-void ReadVersion1(const platform::FileBytes& file, qint64 audioEnd, Id3Tags& tags)
+// A field of a version 2 block.
+struct Field
+{
+    QByteArrayView id;
+    QByteArrayView data; // as much as there is of it
+};
+
+// Steps through the fields of a block. A size that isn't all digits ends them.
+class FieldWalk
+{
+public:
+    explicit FieldWalk(QByteArrayView block) : block_(block) {}
+
+    std::optional<Field> Next()
+    {
+        const qsizetype left = block_.size() - at_ - FieldHeaderSize;
+        if (left < 0 || !IsDigits(block_.sliced(at_ + 3, 5))) {
+            return std::nullopt;
+        }
+        const qint64 size = std::min<qint64>(ToNumber(block_.sliced(at_ + 3, 5)), left);
+        const Field field{block_.sliced(at_, 3), block_.sliced(at_ + FieldHeaderSize, size)};
+        at_ += FieldHeaderSize + size;
+        return field;
+    }
+
+    qsizetype At() const { return at_; }
+
+private:
+    const QByteArrayView block_;
+    qsizetype at_ = BlockBegin.size();
+};
+
+QByteArray FieldBytes(QByteArrayView id, QByteArrayView data)
+{
+    return id.toByteArray() + QByteArray::number(data.size()).rightJustified(5, '0') + data.toByteArray();
+}
+
+// What a block tells of a field; empty for no field.
+QByteArray TextOfField(QByteArrayView id, const Id3Tags& tags)
+{
+    constexpr qsizetype longestElsewhere = 30;
+    constexpr qsizetype longest = 250;
+    QString text = id == "EAL"   ? tags.Album
+                   : id == "EAR" ? tags.Artist
+                   : id == "ETT" ? tags.Title
+                                 : QString();
+    if (text.size() <= longestElsewhere) {
+        return {};
+    }
+    text.truncate(longest);
+    text.replace(QStringLiteral("\r\n"), QStringLiteral("[CR][LF]"));
+    text.replace(u'\r', QStringLiteral("[CR]"));
+    text.replace(u'\n', QStringLiteral("[LF]"));
+    return platform::ToWindows1252OrMark(text);
+}
+
+// The bytes in which the beginning of a version 1 block is looked for.
+QByteArray RangeOfVersion1(const platform::FileBytes& file, qint64 audioEnd)
 {
     constexpr qint64 longest = 5'100;
     const qint64 end = audioEnd - 20;
     const qint64 first = end > longest ? audioEnd - 5'119 : 1;
-    const QByteArray range = file.Read(first - 1, end - first + 1);
+    return file.Read(first - 1, end - first + 1);
+}
+
+// The text of a version 1 block: what lies behind the last beginning in the bytes before `audioEnd`. Its last
+// eleven characters lie behind the bytes that are searched, and are lost.
+void ReadVersion1(const platform::FileBytes& file, qint64 audioEnd, Id3Tags& tags)
+{
+    const QByteArray range = RangeOfVersion1(file, audioEnd);
     const qsizetype begin = range.lastIndexOf(BlockBegin);
     if (begin >= 0) {
         SetIfEmpty(tags.Lyrics, platform::FromWindows1252(range.sliced(begin + BlockBegin.size())));
@@ -82,21 +144,14 @@ void ReadVersion1(const platform::FileBytes& file, qint64 audioEnd, Id3Tags& tag
 void ReadLyrics3Fields(QByteArrayView block, Id3Tags& tags)
 {
     bool hasTimes = false;
-    qsizetype at = BlockBegin.size();
-    while (block.size() - at >= FieldHeaderSize) {
-        const QByteArrayView id = block.sliced(at, 3);
-        const QByteArrayView digits = block.sliced(at + 3, 5);
-        if (!IsDigits(digits)) {
-            break;
-        }
-        const qint64 size = ToNumber(digits);
-        const qsizetype rest = block.size() - at - FieldHeaderSize;
-        const QByteArrayView data = block.sliced(at + FieldHeaderSize, std::min<qint64>(size, rest));
-        const QString text = TextOf(data);
+    FieldWalk walk(block);
+    for (qsizetype at = walk.At(); const auto field = walk.Next(); at = walk.At()) {
+        const QByteArrayView id = field->id;
+        const QString text = TextOf(field->data);
         if (id == "IND") {
             // The flag is looked for as far into the field as the field lies in the block, where there is
             // usually nothing: so times stay in the text.
-            hasTimes = data.size() > at + 5 && data[at + 5] == '1';
+            hasTimes = field->data.size() > at + 5 && field->data[at + 5] == '1';
         } else if (id == "LYR") {
             SetIfEmpty(tags.Lyrics, hasTimes ? WithoutTimes(text) : text);
         } else if (id == "AUT") {
@@ -108,10 +163,6 @@ void ReadLyrics3Fields(QByteArrayView block, Id3Tags& tags)
         } else if (id == "ETT") {
             SetIfEmpty(tags.Title, text);
         }
-        if (size > rest) {
-            break;
-        }
-        at += FieldHeaderSize + size;
     }
 }
 
@@ -119,7 +170,8 @@ Lyrics3Found ReadLyrics3(const platform::FileBytes& file, qint64 audioEnd, Id3Ta
 {
     constexpr qint64 markSize = 9;
     constexpr qint64 sizeSize = 6;
-    Lyrics3Found found{.audioEnd = audioEnd};
+    Lyrics3Found found;
+    found.audioEnd = audioEnd;
     const QByteArray tail = file.Read(audioEnd - markSize - sizeSize, markSize + sizeSize);
     const QByteArray mark = tail.right(markSize);
     if (mark == "LYRICS200") {
@@ -130,6 +182,7 @@ Lyrics3Found ReadLyrics3(const platform::FileBytes& file, qint64 audioEnd, Id3Ta
         const QByteArray block = file.Read(end, size);
         if (block.startsWith(BlockBegin)) {
             found.audioEnd = end;
+            found.block = block;
             ReadLyrics3Fields(block, tags);
         }
     } else if (mark == "LYRICSEND") {
@@ -137,6 +190,45 @@ Lyrics3Found ReadLyrics3(const platform::FileBytes& file, qint64 audioEnd, Id3Ta
         ReadVersion1(file, audioEnd, tags);
     }
     return found;
+}
+
+qint64 AudioEndBeforeVersion1(const platform::FileBytes& file, qint64 audioEnd)
+{
+    const QByteArray range = RangeOfVersion1(file, audioEnd);
+    const qsizetype begin = range.lastIndexOf(BlockBegin) + 1; // counted from 1
+    return begin == 0 ? audioEnd : audioEnd - 16 - range.size() + begin;
+}
+
+std::optional<QByteArray> BuildLyrics3(QByteArrayView oldBlock, const Id3Tags& tags)
+{
+    QByteArrayList left{"LYR", "AUT", "EAL", "EAR", "ETT"};
+    const auto isLong = [&tags](const QByteArray& id) {
+        return !TextOfField(id, tags).isEmpty();
+    };
+    if (std::none_of(left.cbegin(), left.cend(), isLong)) {
+        return QByteArray();
+    }
+    QByteArray block = BlockBegin.toByteArray() + FieldBytes("IND", "00");
+    const auto append = [&](const QByteArray& id) {
+        const QByteArray text = TextOfField(id, tags);
+        block += text.isEmpty() ? QByteArray() : FieldBytes(id, text);
+    };
+    const QByteArrayList known = left;
+    FieldWalk walk(oldBlock);
+    while (const auto field = walk.Next()) {
+        const QByteArray id = field->id.toByteArray();
+        if (known.contains(id)) {
+            append(id);
+            left.removeOne(id);
+        } else if (id != "IND") { // there is one already
+            block += FieldBytes(id, field->data);
+        }
+    }
+    for (const QByteArray& id : std::as_const(left)) {
+        append(id);
+    }
+    const QByteArray size = QByteArray::number(block.size()).rightJustified(6, '0');
+    return size.size() == 6 ? std::optional(block + size + "LYRICS200") : std::nullopt;
 }
 
 } // namespace metadata

@@ -7,6 +7,7 @@
 
 #include "metadata/Id3Tags.h"
 #include "metadata/MpegHeader.h"
+#include "platform/Result.h"
 
 namespace metadata {
 
@@ -21,6 +22,15 @@ public:
     // Reads the file again.
     void RefreshID3Tags();
 
+    // Writes the properties into the file: an ID3v2 tag of the version that is there, else 2.3, with frames
+    // that aren't known here as they are; a Lyrics3 block if title, artist or album has over 30 characters;
+    // an ID3v1 block unless that would be empty. Audio and the file's times stay. What fails and what is left
+    // then, see RewriteFile; a tag that is too large fails and changes nothing.
+    platform::Status UpdateID3Tags();
+
+    // Empties all properties and takes all tags out of the file. Fails as UpdateID3Tags.
+    platform::Status DeleteID3Tags();
+
     bool ID3v1Exists() const { return hasId3v1_; }
     bool ID3v2Exists() const { return hasId3v2_; }
     bool Lyrics3v1Exists() const { return hasLyrics3v1_; }
@@ -34,7 +44,6 @@ public:
 
 private:
     qint64 ReadStart(const platform::FileBytes& file);
-    void FillFromId3v1(QByteArrayView block);
 
     QString fileName_;
     bool hasId3v1_ = false;

@@ -20,7 +20,7 @@ std::optional<FileBytes> FileBytes::Open(const QString& path)
     if (!file.IsOpen() || ::fstat(file.Number(), &info) != 0 || !S_ISREG(info.st_mode)) {
         return std::nullopt;
     }
-    return FileBytes(std::move(file), info.st_size);
+    return FileBytes(std::move(file), info.st_size, {info.st_atim, info.st_mtim});
 }
 
 QByteArray FileBytes::Read(qint64 offset, qint64 count) const

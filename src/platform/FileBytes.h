@@ -9,12 +9,20 @@
 #include <QByteArray>
 #include <QString>
 
+#include <ctime>
 #include <optional>
 
 namespace platform {
 
 // The first `count` bytes of a file, or all if it has fewer; it is opened once. Empty if it can't be read.
 QByteArray ReadHead(const QString& path, qint64 count);
+
+// When a file was used and changed last.
+struct FileTimes
+{
+    timespec accessed{};
+    timespec changed{};
+};
 
 // A file that is open for reading at any place.
 class FileBytes
@@ -26,15 +34,21 @@ public:
     // Number of bytes when it was opened.
     qint64 Size() const { return size_; }
 
+    // As they were when it was opened; reading may change the first.
+    const FileTimes& Times() const { return times_; }
+
     // `count` bytes from `offset`, counted from 0, on; fewer where the file ends, and none if it can't be
     // read.
     QByteArray Read(qint64 offset, qint64 count) const;
 
 private:
-    FileBytes(Descriptor file, qint64 size) : file_(std::move(file)), size_(size) {}
+    FileBytes(Descriptor file, qint64 size, const FileTimes& times)
+        : file_(std::move(file)), size_(size), times_(times)
+    {}
 
     Descriptor file_;
     qint64 size_ = 0;
+    FileTimes times_;
 };
 
 } // namespace platform

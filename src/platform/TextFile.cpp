@@ -68,22 +68,59 @@ QByteArray ResolveLink(const QByteArray& path)
     return resolved ? QByteArray(resolved.get()) : path;
 }
 
+// The characters of 0x80 to 0x9F in Windows-1252; the five that are undefined keep their value.
+constexpr char16_t UpperControls[32] = {0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                        0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
+                                        0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                        0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+std::optional<char> ByteInWindows1252(QChar unit)
+{
+    if (unit.unicode() < 0x80 || (unit.unicode() >= 0xA0 && unit.unicode() <= 0xFF)) {
+        return static_cast<char>(unit.unicode());
+    }
+    const auto* const upper = std::find(std::begin(UpperControls), std::end(UpperControls), unit.unicode());
+    return upper != std::end(UpperControls)
+               ? std::optional(static_cast<char>(0x80 + (upper - std::begin(UpperControls))))
+               : std::nullopt;
+}
+
 } // namespace
 
 QString FromWindows1252(QByteArrayView bytes)
 {
-    // 0x80 to 0x9F; the five that are undefined keep their value.
-    static constexpr char16_t upper[32] = {0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
-                                           0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
-                                           0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
-                                           0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
     QString text = QString::fromLatin1(bytes);
     for (QChar& unit : text) {
         if (unit.unicode() >= 0x80 && unit.unicode() <= 0x9F) {
-            unit = upper[unit.unicode() - 0x80];
+            unit = UpperControls[unit.unicode() - 0x80];
         }
     }
     return text;
+}
+
+std::optional<QByteArray> ToWindows1252(const QString& text)
+{
+    QByteArray bytes;
+    bytes.reserve(text.size());
+    for (const QChar unit : text) {
+        const auto byte = ByteInWindows1252(unit);
+        if (!byte) {
+            return std::nullopt;
+        }
+        bytes += *byte;
+    }
+    return bytes;
+}
+
+QByteArray ToWindows1252OrMark(const QString& text)
+{
+    QByteArray bytes;
+    for (const QChar unit : text) {
+        if (!unit.isLowSurrogate()) { // the second half of a character
+            bytes += ByteInWindows1252(unit).value_or('?');
+        }
+    }
+    return bytes;
 }
 
 std::optional<QStringList> ReadLines(const QString& path, Fallback fallback, qint64 maximumSize)

@@ -26,6 +26,11 @@ enum class Fallback {
 // Text of bytes in the code page Windows-1252; its five undefined bytes keep their value.
 QString FromWindows1252(QByteArrayView bytes);
 
+// The bytes of a text in that code page, or nothing if it lacks one of the characters; or with a "?" in the
+// place of each that it lacks.
+std::optional<QByteArray> ToWindows1252(const QString& text);
+QByteArray ToWindows1252OrMark(const QString& text);
+
 // Reads all lines of a text file. Takes CRLF and LF (and a mix); the last line may lack its end; a byte order
 // mark is dropped. An empty file gives no lines. Empty optional if the file can't be read, is no plain file,
 // or has more than `maximumSize` bytes: a person may hand over any file as a document.
