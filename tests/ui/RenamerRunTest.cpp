@@ -116,7 +116,7 @@ TEST(RenamerRun, StopEndsThePreviewAfterTheRowInProgress)
     const auto stop = [&desk] {
         desk.Click("Command13");
     };
-    QTimer::singleShot(0, &desk.window, stop); // reaches the window during the run
+    QMetaObject::invokeMethod(&desk.window, stop, Qt::QueuedConnection); // reaches it during the run
     QTest::keyClick(&desk.Use("cmdPreview"), Qt::Key_Space);
     EXPECT_EQ(desk.Previews(), Words(u"A.txt ~ ~"_qs));
     EXPECT_TRUE(desk.state.StopFlag.IsSet());
