@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# Starts the real program with its real windows on an X server of its own, hands it two files, leaves the rename window
-# by its Exit button and quits in the main window. It must end by itself with status 0, keep its settings and leave the
-# files alone.
+# Starts the real program with its real windows on an X server of its own, hands it two files, gives them a prefix by keys
+# alone, leaves the rename window by its Exit button and quits in the main window. It must end by itself with status 0,
+# keep its settings and have renamed both files.
 #
-# usage: start_and_quit.sh QUILLMARK
+# usage: rename_by_keys.sh QUILLMARK
 set -euo pipefail
 
 if [ "${2:-}" != on-own-server ]; then
@@ -15,14 +15,14 @@ if [ "${2:-}" != on-own-server ]; then
     env -u WAYLAND_DISPLAY QT_QPA_PLATFORM=xcb HOME="$scratch" XDG_DATA_HOME="$scratch/data" \
         xvfb-run -a "$script" "$1" on-own-server
     [ -s data/Quillmark/Quillmark.ini ] || { echo "no settings were kept: $(find data)"; exit 1; }
-    [ "$(echo *.txt)" = "first.txt second.txt" ] || { echo "the files were touched: $(ls)"; exit 1; }
+    [ "$(echo *.txt)" = "my_first.txt my_second.txt" ] || { echo "the files are not renamed: $(ls)"; exit 1; }
     exit 0
 fi
 
 "$1" 'first.txt|second.txt' &
 program=$!
 
-# press TITLE KEY: waits for a window and presses a key in it.
+# press TITLE KEY...: waits for a window and presses keys in it.
 press() {
     : >window
     timeout 120 xdotool search --sync --onlyvisible --name "$1" >window &
@@ -32,8 +32,9 @@ press() {
         echo "the window $1 didn't appear"
         exit 1
     fi
-    xdotool windowfocus --sync "$(head -1 window)" key "$2"
+    xdotool windowfocus --sync "$(head -1 window)" key "${@:2}"
 }
-press '^Quillmark - Renamer$' alt+x
+# The list of actions, its entry "Prefix" with a check; the box beside it; preview, rename, exit.
+press '^Quillmark - Renamer$' alt+a p space alt+i m y underscore alt+p alt+r alt+x
 press '^Quillmark$' ctrl+q
 wait "$program" || { echo "the program ended with status $?"; exit 1; }
