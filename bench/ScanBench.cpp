@@ -63,6 +63,7 @@ double TimeOf(const std::function<void()>& what)
 double MedianTimeOf(int rounds, const std::function<void()>& what)
 {
     std::vector<double> times;
+    times.reserve(static_cast<std::size_t>(rounds));
     for (int round = 0; round < rounds; ++round) {
         times.push_back(TimeOf(what));
     }
