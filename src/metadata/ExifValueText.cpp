@@ -92,9 +92,25 @@ Text Fixed(double number, int decimals)
     return std::isfinite(number) ? Text(platform::FixedText(number, decimals)) : std::nullopt;
 }
 
-// The texts of fractions, apart from those that show the fraction itself.
+// Whether a fraction is shown as it is, and not as what it means.
+bool IsShownAsFraction(const ExifValue& value)
+{
+    static constexpr std::array unsignedTags{
+        ExposureTime,          ApertureValue,        MaxApertureValue, FNumber,
+        XResolution,           YResolution,          SubjectDistance,  FocalLength,
+        FocalPlaneXResolution, FocalPlaneYResolution};
+    static constexpr std::array signedTags{ShutterSpeedValue, ExposureBiasValue};
+    const auto isAmong = [&value](const auto& tags) {
+        return std::find(tags.begin(), tags.end(), value.tag) != tags.end();
+    };
+    return !(value.format == SRational ? isAmong(signedTags) : isAmong(unsignedTags));
+}
+
 Text FractionText(const ExifValue& value, double& number)
 {
+    if (value.components >= 2 && IsShownAsFraction(value)) {
+        return std::nullopt; // each would be read from four bytes only, which hold no denominator
+    }
     const Text fraction = ReadFraction(value, number);
     if (!fraction) {
         return std::nullopt;
@@ -127,15 +143,14 @@ Text FractionText(const ExifValue& value, double& number)
             break;
         }
     }
-    // Of several components each would be read from four bytes only, which hold no denominator.
-    return value.components < 2 ? fraction : std::nullopt;
+    return fraction;
 }
 
 QString KeepPrintable(std::string_view bytes)
 {
     QString kept;
     for (const char byte : bytes) {
-        if (byte > 31) { // from 128 on they are negative
+        if (const auto code = static_cast<unsigned char>(byte); code > 31 && code < 128) {
             kept += QLatin1Char(byte);
         }
     }
@@ -158,11 +173,11 @@ Text ComponentsText(const ByteView& raw)
     return text;
 }
 
-// "0210" is "2.10".
+// "0210" is "2.10". REQUIRES: there are four bytes or more.
 QString VersionText(std::string_view bytes)
 {
-    const QString text = TextOf(bytes);
-    return platform::DoubleText(platform::LeadingNumber(text.left(2))) + u'.' + text.right(2);
+    return platform::DoubleText(platform::LeadingNumber(TextOf(bytes.substr(0, 2)))) + u'.' +
+           TextOf(bytes.substr(bytes.size() - 2));
 }
 
 Text UndefinedText(const ExifValue& value)

@@ -62,6 +62,17 @@ constexpr TextFrame TextFrames[] = {
     {"WPUB", "WPB", &Id3Tags::PublisherURL},
 };
 
+QString DecodeUtf16(QByteArrayView bytes, bool isBigEndian)
+{
+    QString text;
+    for (qsizetype at = 0; at + 1 < bytes.size(); at += 2) {
+        const auto first = static_cast<uchar>(bytes[at]);
+        const auto second = static_cast<uchar>(bytes[at + 1]);
+        text += QChar(static_cast<char16_t>(isBigEndian ? first << 8 | second : second << 8 | first));
+    }
+    return text;
+}
+
 // Bytes in front of the first byte order mark are characters of the code page; each part behind a mark is
 // UTF-16 in its order up to the next mark, wherever one stands.
 QString DecodeByMarks(QByteArrayView bytes)
@@ -72,14 +83,7 @@ QString DecodeByMarks(QByteArrayView bytes)
     qsizetype start = 0;
     const auto take = [&](qsizetype end) {
         const QByteArrayView part = bytes.sliced(start, end - start);
-        if (!isMarked) {
-            text += platform::FromWindows1252(part);
-        }
-        for (qsizetype at = 0; isMarked && at + 1 < part.size(); at += 2) {
-            const auto first = static_cast<uchar>(part[at]);
-            const auto second = static_cast<uchar>(part[at + 1]);
-            text += QChar(static_cast<char16_t>(isBigEndian ? first << 8 | second : second << 8 | first));
-        }
+        text += isMarked ? DecodeUtf16(part, isBigEndian) : platform::FromWindows1252(part);
     };
     for (qsizetype at = 0; at + 1 < bytes.size(); ++at) {
         const QByteArrayView pair = bytes.sliced(at, 2);
@@ -93,13 +97,6 @@ QString DecodeByMarks(QByteArrayView bytes)
     }
     take(bytes.size());
     return text;
-}
-
-QString DecodeBigEndian(QByteArrayView bytes)
-{
-    QByteArray marked("\xFE\xFF");
-    marked.append(bytes.data(), bytes.size());
-    return DecodeByMarks(marked);
 }
 
 bool IsCompressed(int major, const Id3Frame& frame)
@@ -186,7 +183,7 @@ Id3FrameText DecodeFrameText(int major, const Id3Frame& frame)
     const Id3FrameContent content(major, frame);
     const int encoding = content.Encoding().value_or(CodePage);
     QString text = encoding == Utf16WithMarks   ? DecodeByMarks(content.Bytes())
-                   : encoding == Utf16BigEndian ? DecodeBigEndian(content.Bytes())
+                   : encoding == Utf16BigEndian ? DecodeUtf16(content.Bytes(), true)
                    : encoding == Utf8           ? DecodeUtf8(content.Bytes())
                                                 : platform::FromWindows1252(content.Bytes());
     if (IsComment(frame.id)) {

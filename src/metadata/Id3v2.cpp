@@ -136,7 +136,8 @@ std::optional<Id3v2Header> ReadId3v2Header(QByteArrayView bytes)
         return static_cast<int>(static_cast<uchar>(bytes[index]));
     };
     if (bytes.size() < Id3v2HeaderSize || !bytes.startsWith("ID3") || byte(3) == 255 || byte(4) == 255 ||
-        std::any_of(bytes.begin() + 6, bytes.begin() + 10, [](char size) { return size < 0; })) {
+        std::any_of(bytes.begin() + 6, bytes.begin() + 10,
+                    [](char size) { return static_cast<uchar>(size) >= 128; })) {
         return std::nullopt;
     }
     Id3v2Header header;

@@ -5,6 +5,7 @@
 #include "platform/TextFile.h"
 
 #include <algorithm>
+#include <cmath>
 #include <string_view>
 
 namespace metadata {
@@ -28,21 +29,21 @@ qint64 ToNumber(QByteArrayView digits)
 bool IsWholeNumber(const QString& text)
 {
     const auto number = platform::ToNumber(text);
-    return number && *number >= 0 && *number == static_cast<double>(static_cast<qint64>(*number));
+    return number && *number >= 0 && *number == std::floor(*number);
 }
 
-// Empties brackets that hold a time, "[01:23]", and leaves them standing as "[]" does with its text behind.
-// Another bracket ends the work.
+// Cuts a time, "[01:23]Hello", down to "[0Hello", and so on from the same bracket. One without a time ends
+// the work.
 QString WithoutTimes(QString text)
 {
-    for (qsizetype open = text.indexOf(u'['); open >= 0; open = text.indexOf(u'[', open + 1)) {
+    for (qsizetype open = text.indexOf(u'['); open >= 0; open = text.indexOf(u'[', open)) {
         const qsizetype close = text.indexOf(u']', open);
         const QStringList parts =
             close < 0 ? QStringList() : text.mid(open + 1, close - open - 1).split(u':');
         if (parts.size() != 2 || !IsWholeNumber(parts[0]) || !IsWholeNumber(parts[1])) {
             break;
         }
-        text.remove(open + 1, close - open);
+        text.remove(open + 2, close - open - 1);
     }
     return text;
 }
@@ -172,7 +173,8 @@ Lyrics3Found ReadLyrics3(const platform::FileBytes& file, qint64 audioEnd, Id3Ta
     constexpr qint64 sizeSize = 6;
     Lyrics3Found found;
     found.audioEnd = audioEnd;
-    const QByteArray tail = file.Read(audioEnd - markSize - sizeSize, markSize + sizeSize);
+    const qint64 start = std::max<qint64>(0, audioEnd - markSize - sizeSize);
+    const QByteArray tail = file.Read(start, audioEnd - start);
     const QByteArray mark = tail.right(markSize);
     if (mark == "LYRICS200") {
         found.version2 = true;

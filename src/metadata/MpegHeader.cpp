@@ -216,7 +216,9 @@ void MpegHeader::ReadVbri(const ByteView& frame)
     vbrQuality_ = number(44);
     vbrBytes_ = Signed(frame, 46);
     vbrFrames_ = Signed(frame, 50);
-    audioBytes_ -= 26 + qint64{number(54)} * number(58); // and the table's entries, times their size
+    vbriTocEntries_ = number(54);
+    vbriTocEntrySize_ = number(58);
+    audioBytes_ -= 26 + qint64{vbriTocEntries_} * vbriTocEntrySize_;
 }
 
 } // namespace metadata

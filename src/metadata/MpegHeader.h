@@ -46,6 +46,8 @@ public:
     qint32 VbrBytes() const { return vbrBytes_; }
     qint32 VbrQuality() const { return vbrQuality_; }
     const QByteArray& VbrToc() const { return vbrToc_; }
+    int VbriTocEntries() const { return vbriTocEntries_; }
+    int VbriTocEntrySize() const { return vbriTocEntrySize_; } // bytes
 
 private:
     bool IsAcceptable() const;
@@ -61,6 +63,8 @@ private:
     qint32 vbrBytes_ = 0;
     qint32 vbrQuality_ = 0;
     QByteArray vbrToc_;
+    int vbriTocEntries_ = 0;
+    int vbriTocEntrySize_ = 0;
 };
 
 } // namespace metadata

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QSet>
 
 #include <optional>
 #include <vector>
@@ -29,7 +30,7 @@ public:
              std::optional<int> after = {});
 
     void Remove(int index);
-    void Clear() { entries_.clear(); }
+    void Clear() { *this = {}; }
 
 private:
     // What keeps a second item out. Without a text as its key an item has the word for whether it is "I_".
@@ -41,7 +42,11 @@ private:
         Key key = Key::None;
     };
 
+    void ForgetKey(const Entry& entry);
+
     std::vector<Entry> entries_;
+    QSet<QByteArray> texts_; // that are keys
+    QSet<Key> words_;        // the same of the other two
 };
 
 } // namespace metadata

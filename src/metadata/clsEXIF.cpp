@@ -28,12 +28,12 @@ QString NotExifText()
     return QStringLiteral("File is not in EXIF format.");
 }
 
-// A text as the offset of a directory: the number at its start. Nothing where it is too large.
-std::optional<std::uint32_t> OffsetOf(const QString& text)
+// A text as the offset of a directory: the number at its start, which may be negative. Nothing where it is
+// too large.
+std::optional<qint32> OffsetOf(const QString& text)
 {
     const double number = std::nearbyint(platform::LeadingNumber(text));
-    return number >= 0 && number <= Greatest ? std::optional(static_cast<std::uint32_t>(number))
-                                             : std::nullopt;
+    return std::fabs(number) <= Greatest ? std::optional(static_cast<qint32>(number)) : std::nullopt;
 }
 
 } // namespace
@@ -62,22 +62,23 @@ void clsEXIF::ReadMetaInfo(std::string_view head)
     }
     const ByteView buffer(text);
     const std::size_t base = found + 1 + 6; // of the TIFF header, counted from 1
-    order_ = text.substr(base - 1, 2) == "II" ? ByteOrder::LittleEndian : ByteOrder::BigEndian;
+    const bool isIntel = buffer.Part(base, 2).value_or(ByteView()).Bytes() == "II";
+    order_ = isIntel ? ByteOrder::LittleEndian : ByteOrder::BigEndian;
     records_.clear();
     const std::uint32_t told = buffer.UInt32(base + 4, order_).value_or(0);
-    const std::uint32_t first = told <= Greatest ? told : 0;
+    const auto first = static_cast<qint32>(told <= Greatest ? told : 0);
     // Where the first directory ended early, or had no such entry, the second is read at offset 0: the header
     // passes for a directory then.
-    const std::uint32_t second = ReadIfd(buffer, base, first, ExifOffset);
+    const qint32 second = ReadIfd(buffer, base, first, ExifOffset);
     ReadIfd(buffer, base, second, ExifInteroperabilityOffset);
 }
 
 // Reads the directory at an offset. Gives what the searched tag says, 0 if the directory has none or ends at
 // an entry that can't be read; that entry and all behind it stay blank.
-std::uint32_t clsEXIF::ReadIfd(const ByteView& buffer, std::size_t base, std::uint32_t offset,
-                               int searchedTag)
+qint32 clsEXIF::ReadIfd(const ByteView& buffer, std::size_t base, qint32 offset, int searchedTag)
 {
-    std::size_t position = base + offset;
+    const qint64 start = static_cast<qint64>(base) + offset;
+    auto position = static_cast<std::size_t>(std::max<qint64>(0, start)); // 0 is nowhere
     const auto count = buffer.UInt16(position, order_);
     if (!count) {
         return 0;
@@ -85,7 +86,7 @@ std::uint32_t clsEXIF::ReadIfd(const ByteView& buffer, std::size_t base, std::ui
     const std::size_t firstSlot = records_.size();
     records_.resize(firstSlot + *count);
     position += 2;
-    std::uint32_t result = 0;
+    qint32 result = 0;
     for (std::size_t slot = firstSlot; slot < records_.size(); ++slot, position += EntrySize) {
         if (!ReadEntry(buffer, base, position, records_[slot])) {
             return 0;

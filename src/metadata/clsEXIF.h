@@ -69,7 +69,7 @@ public:
     void ReadMetaInfo(std::string_view head);
 
 private:
-    std::uint32_t ReadIfd(const ByteView& buffer, std::size_t base, std::uint32_t offset, int searchedTag);
+    qint32 ReadIfd(const ByteView& buffer, std::size_t base, qint32 offset, int searchedTag);
     bool ReadEntry(const ByteView& buffer, std::size_t base, std::size_t position,
                    ExifTagRecord& record) const;
     QString Reworded(const QString& tagName, const QString& text) const;

@@ -20,6 +20,14 @@ QString WithoutQuotes(const QString& text)
     return isQuoted ? text.mid(1, text.size() - 2) : text;
 }
 
+// The first units of a text, without a pair that would be cut in half.
+QString Shortened(const QString& text)
+{
+    const bool cutsPair = text.size() > LongestValue && text.at(LongestValue - 1).isHighSurrogate() &&
+                          text.at(LongestValue).isLowSurrogate();
+    return text.left(cutsPair ? LongestValue - 1 : LongestValue);
+}
+
 } // namespace
 
 ProfileFile::Stamp ProfileFile::StampNow() const
@@ -57,7 +65,7 @@ void ProfileFile::Parse(const QStringList& lines)
         } else if (section && equals > 0 && !line.startsWith(u';')) {
             const QString key = line.left(equals).trimmed().toLower();
             if (!section->contains(key)) {
-                section->insert(key, WithoutQuotes(line.mid(equals + 1).trimmed()).left(LongestValue));
+                section->insert(key, Shortened(WithoutQuotes(line.mid(equals + 1).trimmed())));
             }
         }
     }

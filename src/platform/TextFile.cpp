@@ -167,8 +167,9 @@ Status WriteDocument(const QString& path, const QStringList& lines)
         content += ToBytes(line) + LineEnd;
         isValid = isValid && line.isValidUtf16();
     }
-    if (!isValid) {
-        content.prepend(ByteOrderMark); // or the bytes of a name would be taken for an older encoding
+    // Or the bytes of a name would be taken for an older encoding, and a text's own mark for the file's.
+    if (!isValid || content.startsWith(ByteOrderMark)) {
+        content.prepend(ByteOrderMark);
     }
     TemporaryFile file(target);
     if (Status made = file.Create(0666); !made.IsOk()) {

@@ -39,7 +39,8 @@ std::optional<QStringList> ReadLines(const QString& path, Fallback fallback = Fa
                                      qint64 maximumSize = LargestText);
 
 // Writes a document whole or not at all: into a temporary file beside `path`, which then replaces it.
-// Where a text holds bytes of a name that is no valid UTF-8, a byte order mark says how to read them back.
+// Where a text holds bytes of a name that is no valid UTF-8, a byte order mark says how to read them back;
+// also where the first text begins with a mark of its own.
 // Whatever fails (no folder, no permission, a full disk), an existing file at `path` stays as it was. A
 // read-only file and anything but a plain file are refused; a link is written through, one that leads nowhere
 // is replaced.

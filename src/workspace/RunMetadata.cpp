@@ -11,7 +11,7 @@ namespace workspace {
 
 void RunMetadata::Load(const model::RenameRow& row, model::NameContext& context)
 {
-    const QString extension = model::GetFName(row.original, row.type, true);
+    const QString extension = model::GetFName(row.original, {}, true); // a folder's, too
     const bool isMp3 = model::UpperCase(extension) == QStringLiteral(".MP3");
     if (isMp3) {
         CurrentID3_.SetFileName(row.path + row.original);

@@ -109,6 +109,12 @@ TEST(Exif, DirectoriesAndWhatIsReadInTheirPlace)
     ExifBuilder large;
     large.Add(271, 2, 1, "m").Add(34665, 4, 0x80000000, "abcd").Add(272, 2, 1, "n");
     EXPECT_TRUE(Read(large.Picture()).startsWith(u"Make: m|: |: |"_qs)) << "a count that overflows";
+    ExifBuilder before;
+    before.Add(271, 2, 1, "m").Add(34665, 9, 1, before.Number(0x80000000, 4)).Add(272, 2, 1, "n");
+    EXPECT_TRUE(Read(before.Picture()).startsWith(u"Make: m|ExifOffset: -1|Model: n|"_qs));
+    for (std::size_t at = 4'070; at < 4'096; ++at) {
+        EXPECT_NO_THROW(Read(std::string(at, 'x') + std::string("Exif\0\0II*\0", 10))) << at;
+    }
     EXPECT_TRUE(Read("text, and then Exif" + std::string(1, '\0')).isEmpty()) << "zero bytes have no entries";
 
     const std::string whole = both.Picture();
@@ -137,6 +143,9 @@ TEST(Exif, AFileThatTellsNothingLeavesWhatWasRead)
     };
     EXPECT_EQ(read(u"a.jpg"_qs), QString());
     EXPECT_TRUE(exif.IntelByteAlignment() && exif.MetaInfo(271, text) == 'm' && text == u"m"_qs);
+    clsEXIF pair({});
+    pair.ReadMetaInfo(ExifBuilder().Add(318, 5, 2, std::string(16, '\1')).Picture());
+    EXPECT_EQ(pair.MetaInfo(318, text), 26) << "where it lies, for it isn't one fraction";
     EXPECT_TRUE(exif.MetaInfo(9, text) == 0 && text == u"Tag 9 not found."_qs);
     const QStringList before = lines;
     for (const QString& name : {u"short.jpg"_qs, u"late.jpg"_qs}) {

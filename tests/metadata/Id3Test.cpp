@@ -54,6 +54,7 @@ TEST_F(Id3, ATextIsDecodedByItsEncodingAndVersion)
         {3, "TIT2", "\3UTF"sv, 0, u"\u0003UTF"_qs}, // an encoding of 2.4 only
         {3, "TIT2", "\0Packed"sv, 128, QString()},
         {4, "TIT2", "\2\0A\x20\xAC"sv, 0, u"A€"_qs},
+        {4, "TIT2", "\2\x4E\xFE\xFF\x41"sv, 0, u"\u4EFE\uFF41"_qs}, // no marks here
         {4, "TIT2", "\3\xE2\x82\xAC!"sv, 0, u"€!"_qs},
         {4, "TIT2", "\3\xF0\x9F\x98\x80"sv, 0, u"\u07D8\u0080"_qs}, // three bytes of four
         {4, "TIT2", "\3ok\xE2\x82"sv, 0, u"ok"_qs},
@@ -85,14 +86,14 @@ TEST_F(Id3, FramesWithRulesOfTheirOwn)
                frame("TRCK", "\0"
                              "3/12"sv) +
                frame("TPOS", "\0A/2/3"sv) + frame("TALB", "\0old"sv) + frame("TALB", "\0new"sv) +
-               frame("WCOM", "http://a"sv) + frame("WCOM", "http://b"sv) +
+               frame("WCOM", "http://a"sv) + frame("WCOM", "http://b"sv) + frame("WCOM", " I_"sv) +
                frame("APIC", "\0image/png\0\3\0\xFF\0x"sv) + frame("APIC", "\0image/png\0\3\0\xFF\0x"sv) +
                frame("APIC", "\0image/png\0\4\0y"sv) + QByteArray(30, '\0') + frame("TCOM", "\0hidden"sv)));
     EXPECT_EQ(id3.Comments + u'|' + id3.Lyrics + u'|' + id3.Year, u"a comment|L|2009"_qs);
     EXPECT_EQ(id3.TrackNumber + u'/' + id3.TracksTotal + u' ' + id3.DiscNumber + u'/' + id3.DiscsTotal,
               u"3/12 0/"_qs);
     EXPECT_EQ(id3.Album + id3.Composer, u"new"_qs) << "padding ends the frames";
-    ASSERT_TRUE(id3.CommercialInfo.Count() == 1 && id3.AttachedPictures.Count() == 2);
+    ASSERT_TRUE(id3.CommercialInfo.Count() == 2 && id3.AttachedPictures.Count() == 2);
     EXPECT_EQ(id3.CommercialInfo.Item(1) + id3.AttachedPictures.Item(1),
               "http://a" + Bytes("image/png\0\3\0\xFF\0x"sv));
     // text, number and text
@@ -157,6 +158,10 @@ TEST_F(Id3, LaterTagsFillWhatIsEmpty)
     EXPECT_TRUE(lost.Lyrics3v1Exists() && lost.Lyrics == u"fourty and "_qs);
     const clsID3 wrong = Read(audio + "LYRICSBEGIN" + Lyrics3Field("ETT", "L") + "000005LYRICS200");
     EXPECT_TRUE(wrong.Lyrics3v2Exists() && wrong.Title.isEmpty());
+    const clsID3 times = Read(audio + Lyrics3v2(Lyrics3Field("IND", "00000000000000001") +
+                                                Lyrics3Field("LYR", "[00:12]Hello[CR][LF][00:15]you")));
+    EXPECT_EQ(times.Lyrics, u"[0Hello\r\n[00:15]you"_qs);
+    EXPECT_TRUE(Read("LYRICSEND").Lyrics3v1Exists() && Read("LYRICS200").Lyrics3v2Exists());
     const clsID3 digits = Read(audio + Lyrics3v2(Lyrics3Field("AUT", "a") + "ETT0000xL"));
     EXPECT_TRUE(digits.Lyricist == u"a"_qs && digits.Title.isEmpty());
     for (const QByteArray& none : {QByteArray(), QByteArray("abc"), QByteArray(127, '\xFF')}) {

@@ -136,6 +136,11 @@ TEST(MetadataPickers, EveryPickIsWrittenAndThePictureDateAsksForItsFormat)
     QTest::mouseDClick(keys.viewport(), Qt::LeftButton, {}, last);
     EXPECT_TRUE(OpenPicker() == nullptr && combo.currentText() == u"$MP3_ID3_Bitrate"_qs);
 
+    desk.state.MetadataChoice = 20; // which only the other list has
+    pick("$MP3 Data$");
+    EXPECT_EQ(combo.currentText(), u"$MP3 Data$"_qs);
+    EXPECT_EQ(desk.state.MetadataChoice, 20);
+    QTest::keyClick(&InPicker<QListWidget>("lstSelID3"), Enter);
     desk.state.MetadataChoice = 5;
     pick("$Exif Data$");
     QWidget& list = InPicker<QListWidget>("lstSelExif");

@@ -101,6 +101,10 @@ TEST_F(Metadata, MusicTellsByItsKeys)
         EXPECT_EQ(PreviewOf(u"Prefix"_qs, value), names) << value.toStdString();
     }
     EXPECT_EQ(PreviewOf(u"Replace All"_qs, u"$MP3_ID3_Title"_qs), u"Title.Mp3|b.mp3|c.txt"_qs);
+    folder.MakeFolder(u"d.mp3"_qs);
+    Take({u"a.Mp3"_qs, u"d.mp3"_qs});
+    EXPECT_EQ(PreviewOf(u"Prefix"_qs, u"$MP3_ID3_Bitrate"_qs), u"128000a.Mp3|0d.mp3"_qs)
+        << "a folder's name has an extension here";
 }
 
 TEST_F(Metadata, PictureDatesAreReadOnceForASort)

@@ -35,7 +35,10 @@ MetadataPicker::MetadataPicker(const MetadataList& list, model::AppState& state,
     auto* column = new QVBoxLayout(this);
     column->addWidget(keys_);
     AddOk(*column, list.ok);
-    connect(keys_, &QListWidget::currentRowChanged, this, &MetadataPicker::PickRow);
+    // Not the current entry: a list that gets the focus has one by itself.
+    connect(keys_, &QListWidget::itemSelectionChanged, this, [this] {
+        PickRow(keys_->selectedItems().isEmpty() ? -1 : keys_->row(keys_->selectedItems().first()));
+    });
     connect(keys_, &QListWidget::itemDoubleClicked, this, &QDialog::accept);
 }
 
@@ -45,8 +48,8 @@ void MetadataPicker::showEvent(QShowEvent* event)
     PickerWindow::showEvent(event);
     if (!event->spontaneous()) {
         keys_->setFocus();
-        // An entry that this list doesn't have selects nothing.
-        keys_->setCurrentRow(state_.MetadataChoice < keys_->count() ? state_.MetadataChoice : -1);
+        keys_->setCurrentRow(-1);
+        keys_->setCurrentRow(state_.MetadataChoice); // an entry that this list lacks selects nothing
     }
 }
 
