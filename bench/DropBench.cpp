@@ -9,6 +9,7 @@
 // usage: quillmark_drop_bench QUILLMARK RENAME_LOOP FOLDER COUNT ROUNDS
 // Prints one line, its fields parted by tabs: COUNT, median of the drop, median of the loop (ms), ratio of
 // the two.
+#include "Timing.h"
 #include "documents/RenameDocument.h"
 
 #include <QString>
@@ -30,6 +31,7 @@
 namespace {
 
 namespace fs = std::filesystem;
+using bench::Median;
 
 using Arguments = std::vector<std::string>;
 
@@ -122,13 +124,6 @@ fs::path WriteRecipe(const fs::path& folder, char prefix)
         throw std::runtime_error(path.string() + " could not be written");
     }
     return path;
-}
-
-double Median(std::vector<double> values)
-{
-    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
 }
 
 Arguments DropOver(const std::string& program, const fs::path& recipes, const FlippingFiles& files, int count)

@@ -7,6 +7,7 @@
 // usage: quillmark_scan_bench FOLDER ROUNDS
 // Prints lines, their fields parted by tabs: what, rows, median in ms or the figure itself, yardstick, ratio,
 // wanted.
+#include "Timing.h"
 #include "fileview/Scanner.h"
 #include "fileview/ui/ListViewEditable.h"
 #include "scan_loop.h"
@@ -27,6 +28,8 @@
 namespace {
 
 namespace fs = std::filesystem;
+using bench::Median;
+using bench::TimeOf;
 
 constexpr int FolderCount = 2'000;
 constexpr int FilesPerFolder = 100;
@@ -43,21 +46,6 @@ void MakeTree(const fs::path& top)
             }
         }
     }
-}
-
-double Median(std::vector<double> values)
-{
-    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
-}
-
-double TimeOf(const std::function<void()>& what)
-{
-    QElapsedTimer timer;
-    timer.start();
-    what();
-    return static_cast<double>(timer.nsecsElapsed()) / 1e6;
 }
 
 double MedianTimeOf(int rounds, const std::function<void()>& what)

@@ -7,6 +7,7 @@
 // usage: quillmark_start_bench FOLDER ROUNDS
 // Makes FOLDER with its files if it isn't there. Prints a line, its fields parted by tabs: what, files,
 // median in ms, yardstick, ratio, wanted.
+#include "Timing.h"
 #include "app/ui/Windows.h"
 #include "workspace/ui/ReadableStyle.h"
 
@@ -26,6 +27,7 @@
 namespace {
 
 namespace fs = std::filesystem;
+using bench::Median;
 
 constexpr int FileCount = 1'000;
 
@@ -88,13 +90,6 @@ double TimeOf(const QStringList& arguments)
         throw std::runtime_error("a start failed");
     }
     return static_cast<double>(timer.nsecsElapsed()) / 1e6;
-}
-
-double Median(std::vector<double> values)
-{
-    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
 }
 
 int Measure(const QString& folder, int rounds)

@@ -14,7 +14,8 @@ metadata::Lyrics3Found ReadFile(QByteArrayView content, metadata::Id3Tags& tags)
 {
     const auto file = platform::FileBytes::Open(WriteFile("lyrics.mp3", content));
     Require(file.has_value(), "a file can be opened");
-    const metadata::Lyrics3Found found = metadata::ReadLyrics3(*file, file->Size(), tags);
+    const QByteArrayView end = content.last(std::min<qsizetype>(metadata::Lyrics3EndSize, content.size()));
+    const metadata::Lyrics3Found found = metadata::ReadLyrics3(*file, end, file->Size(), tags);
     Require(found.audioEnd >= 0 && found.audioEnd <= file->Size(), "the audio ends in the file");
     Require(!found.version1 || !found.version2, "a block is of one version");
     return found;

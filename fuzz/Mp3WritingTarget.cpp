@@ -32,7 +32,8 @@ void WriteMp3Tags(QByteArrayView file)
     metadata::clsID3 again;
     again.SetFileName(path);
     for (const auto text : PlainTexts) {
-        const bool isPlain = platform::ToWindows1252(tags.*text).has_value();
+        // A text with a zero ends there.
+        const bool isPlain = platform::ToWindows1252(tags.*text) && !(tags.*text).contains(QChar::Null);
         Require(!isPlain || header->hasExtendedHeader || again.*text == tags.*text, "a text comes back");
     }
     Require(header->hasExtendedHeader || again.AttachedPictures.Count() == tags.AttachedPictures.Count(),

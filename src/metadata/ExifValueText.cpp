@@ -6,6 +6,7 @@
 
 #include <QStringList>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -13,11 +14,7 @@ namespace metadata {
 
 namespace {
 
-using Text = std::optional<QString>;
-
 enum Format { Ascii = 2, Rational = 5, SByte = 6, Undefined = 7, SShort = 8, SLong = 9, SRational = 10 };
-
-constexpr std::array<std::uint32_t, 13> FormatSizes{0, 1, 1, 2, 4, 8, 1, 1, 2, 4, 8, 4, 8};
 
 enum Tag {
     XResolution = 282,
@@ -51,6 +48,9 @@ QString TextOf(std::string_view bytes)
 // The sum of the bytes times powers of 256, in double precision.
 std::optional<double> ReadUnsigned(const ExifValue& value, std::size_t position, std::size_t count)
 {
+    if (count <= 4) {
+        return value.raw.Number(position, count, value.order);
+    }
     const auto part = value.raw.Part(position, count);
     if (!part) {
         return std::nullopt;
@@ -71,79 +71,86 @@ std::optional<double> ReadSigned(const ExifValue& value, std::size_t position, s
     return number && *number > half - 1 ? half - (*number - half) - half - 1 : number;
 }
 
-// "numerator/denominator". `number` becomes the quotient unless the denominator is 0.
-Text ReadFraction(const ExifValue& value, double& number)
+struct Fraction
+{
+    double numerator = 0;
+    double denominator = 0;
+};
+
+std::optional<Fraction> ReadFraction(const ExifValue& value)
 {
     const auto read = value.format == SRational ? ReadSigned : ReadUnsigned;
     const auto numerator = read(value, 1, 4);
     const auto denominator = read(value, 5, 4);
-    if (!numerator || !denominator) {
-        return std::nullopt;
-    }
-    if (*denominator != 0) {
-        number = *numerator / *denominator;
-    }
-    return platform::DoubleText(*numerator) + u'/' + platform::DoubleText(*denominator);
+    return numerator && denominator ? std::optional(Fraction{*numerator, *denominator}) : std::nullopt;
 }
 
-// A number with that many decimals; nothing if it has overflowed.
-Text Fixed(double number, int decimals)
+// What a fraction means, with so many decimals.
+struct Meaning
 {
-    return std::isfinite(number) ? Text(platform::FixedText(number, decimals)) : std::nullopt;
-}
+    double number = 0;
+    int decimals = 0;
+};
 
-// Whether a fraction is shown as it is, and not as what it means.
-bool IsShownAsFraction(const ExifValue& value)
+// Nothing for a tag that shows the fraction as it is.
+std::optional<Meaning> MeaningOf(const ExifValue& value, double number)
 {
-    static constexpr std::array unsignedTags{
-        ExposureTime,          ApertureValue,        MaxApertureValue, FNumber,
-        XResolution,           YResolution,          SubjectDistance,  FocalLength,
-        FocalPlaneXResolution, FocalPlaneYResolution};
-    static constexpr std::array signedTags{ShutterSpeedValue, ExposureBiasValue};
-    const auto isAmong = [&value](const auto& tags) {
-        return std::find(tags.begin(), tags.end(), value.tag) != tags.end();
-    };
-    return !(value.format == SRational ? isAmong(signedTags) : isAmong(unsignedTags));
-}
-
-Text FractionText(const ExifValue& value, double& number)
-{
-    if (value.components >= 2 && IsShownAsFraction(value)) {
-        return std::nullopt; // each would be read from four bytes only, which hold no denominator
-    }
-    const Text fraction = ReadFraction(value, number);
-    if (!fraction) {
-        return std::nullopt;
-    }
     if (value.format == SRational) {
         switch (value.tag) {
         case ShutterSpeedValue:
-            return Fixed(std::exp2(number), 0);
+            return Meaning{std::exp2(number), 0};
         case ExposureBiasValue:
-            return Fixed(number, 1);
+            return Meaning{number, 1};
         default:
-            break;
-        }
-    } else {
-        switch (value.tag) {
-        case ExposureTime: // 1/250 of a second is 250
-            return Fixed(1 / number, 0);
-        case ApertureValue:
-        case MaxApertureValue:
-            return Fixed(std::pow(std::sqrt(2.0), number), 1);
-        case FNumber:
-        case XResolution:
-        case YResolution:
-        case SubjectDistance:
-        case FocalLength:
-        case FocalPlaneXResolution:
-        case FocalPlaneYResolution:
-            return Fixed(number, 1);
-        default:
-            break;
+            return std::nullopt;
         }
     }
-    return fraction;
+    switch (value.tag) {
+    case ExposureTime: // 1/250 of a second is 250
+        return Meaning{1 / number, 0};
+    case ApertureValue:
+    case MaxApertureValue:
+        return Meaning{std::pow(std::sqrt(2.0), number), 1};
+    case FNumber:
+    case XResolution:
+    case YResolution:
+    case SubjectDistance:
+    case FocalLength:
+    case FocalPlaneXResolution:
+    case FocalPlaneYResolution:
+        return Meaning{number, 1};
+    default:
+        return std::nullopt;
+    }
+}
+
+bool TakeFraction(const ExifValue& value, double& number)
+{
+    if (value.components >= 2 && !MeaningOf(value, 1)) {
+        return false; // each would be read from four bytes only, which hold no denominator
+    }
+    const auto fraction = ReadFraction(value);
+    if (fraction && fraction->denominator != 0) {
+        number = fraction->numerator / fraction->denominator;
+    }
+    return fraction && std::isfinite(MeaningOf(value, number).value_or(Meaning()).number);
+}
+
+QString FractionText(const ExifValue& value, double number)
+{
+    if (const auto meaning = MeaningOf(value, number)) {
+        return platform::FixedText(meaning->number, meaning->decimals);
+    }
+    const Fraction fraction = ReadFraction(value).value_or(Fraction());
+    return platform::DoubleText(fraction.numerator) + u'/' + platform::DoubleText(fraction.denominator);
+}
+
+// The first component of a number, floating point numbers as whole ones.
+std::optional<double> ReadFirst(const ExifValue& value)
+{
+    const bool isSigned = value.format == SByte || value.format == SShort || value.format == SLong;
+    const auto size = ExifFormatSize(value.format);
+    return size ? (isSigned ? ReadSigned : ReadUnsigned)(value, 1, *size) : std::nullopt;
 }
 
 QString KeepPrintable(std::string_view bytes)
@@ -157,18 +164,19 @@ QString KeepPrintable(std::string_view bytes)
     return kept;
 }
 
-Text ComponentsText(const ByteView& raw)
+const QStringList& ComponentNames()
 {
     static const QStringList names{
         QString(),           QStringLiteral("Y"), QStringLiteral("Cb"), QStringLiteral("Cr"),
         QStringLiteral("R"), QStringLiteral("G"), QStringLiteral("B")};
+    return names;
+}
+
+QString ComponentsText(const ByteView& raw)
+{
     QString text;
     for (std::size_t position = 1; position <= 4; ++position) {
-        const auto index = raw.Byte(position);
-        if (!index || *index >= names.size()) {
-            return std::nullopt;
-        }
-        text += names.at(*index);
+        text += ComponentNames().value(raw.Byte(position).value_or(0));
     }
     return text;
 }
@@ -180,7 +188,7 @@ QString VersionText(std::string_view bytes)
            TextOf(bytes.substr(bytes.size() - 2));
 }
 
-Text UndefinedText(const ExifValue& value)
+QString UndefinedText(const ExifValue& value)
 {
     switch (value.tag) {
     case ExifVersion:
@@ -191,10 +199,8 @@ Text UndefinedText(const ExifValue& value)
     case ComponentsConfiguration:
         return ComponentsText(value.raw);
     case FileSource:
-    case SceneType: {
-        const auto number = ReadUnsigned(value, 1, 1);
-        return number ? Text(platform::DoubleText(*number)) : std::nullopt;
-    }
+    case SceneType:
+        return QString::number(value.raw.Byte(1).value_or(0));
     default:
         return TextOf(value.raw.Bytes());
     }
@@ -202,13 +208,28 @@ Text UndefinedText(const ExifValue& value)
 
 } // namespace
 
-std::optional<std::uint32_t> ExifFormatSize(int format)
+bool TakeExifValue(const ExifValue& value, double& number)
 {
-    const auto index = static_cast<std::size_t>(format);
-    return format >= 0 && index < FormatSizes.size() ? std::optional(FormatSizes[index]) : std::nullopt;
+    switch (value.format) {
+    case Ascii:
+        return true;
+    case Rational:
+    case SRational:
+        return TakeFraction(value, number);
+    case Undefined: {
+        const std::string_view four = value.raw.Bytes().substr(0, 4);
+        return value.tag != ComponentsConfiguration || std::all_of(four.begin(), four.end(), [](char index) {
+                   return static_cast<unsigned char>(index) < ComponentNames().size();
+               });
+    }
+    default: {
+        const auto size = ExifFormatSize(value.format);
+        return size && value.raw.Has(1, *size);
+    }
+    }
 }
 
-std::optional<QString> ExifValueText(const ExifValue& value, double& number)
+QString ExifValueText(const ExifValue& value, double number)
 {
     switch (value.format) {
     case Ascii:
@@ -219,13 +240,8 @@ std::optional<QString> ExifValueText(const ExifValue& value, double& number)
     case Undefined:
         return UndefinedText(value);
     default:
-        break;
+        return platform::DoubleText(ReadFirst(value).value_or(0));
     }
-    // Only the first component, and floating point numbers as whole ones.
-    const bool isSigned = value.format == SByte || value.format == SShort || value.format == SLong;
-    const auto size = ExifFormatSize(value.format);
-    const auto first = size ? (isSigned ? ReadSigned : ReadUnsigned)(value, 1, *size) : std::nullopt;
-    return first ? Text(platform::DoubleText(*first)) : std::nullopt;
 }
 
 } // namespace metadata

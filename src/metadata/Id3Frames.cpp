@@ -114,6 +114,9 @@ bool Id3FrameWalk::StartsWith(qsizetype at, std::string_view text) const
 // Padding with the signature of another program: any tail of it, a version, and any tail of "(unicode)".
 bool Id3FrameWalk::IsSignature() const
 {
+    if ("\0MP3ext V0123456789.(unicode)"sv.find(bytes_[at_]) == std::string_view::npos) {
+        return false; // nearly always
+    }
     std::string_view pattern = "\0\0\0MP3ext V"sv;
     while (!pattern.empty() && !StartsWith(at_, pattern)) {
         pattern.remove_prefix(1);

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "metadata/Id3v1.h"
 
+#include "metadata/Lyrics3.h"
 #include "platform/Conversions.h"
 #include "platform/TextFile.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace metadata {
@@ -52,6 +54,18 @@ int TrackByte(const Id3Tags& tags)
 }
 
 } // namespace
+
+FileEnd ReadFileEnd(const platform::FileBytes& file)
+{
+    const qint64 start = std::max<qint64>(0, file.Size() - Id3v1Size - Lyrics3EndSize);
+    const QByteArray bytes = file.Read(start, file.Size() - start);
+    const qsizetype blockAt = bytes.size() - Id3v1Size;
+    const bool hasBlock = blockAt >= 0 && bytes.sliced(blockAt).startsWith("TAG");
+    const QByteArray audio = hasBlock ? bytes.first(blockAt) : bytes;
+    return {.id3v1 = hasBlock ? bytes.sliced(blockAt) : QByteArray(),
+            .audio = audio.right(Lyrics3EndSize),
+            .audioEnd = file.Size() - (hasBlock ? Id3v1Size : 0)};
+}
 
 void FillFromId3v1(QByteArrayView block, Id3Tags& tags)
 {

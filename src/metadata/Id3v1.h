@@ -5,12 +5,23 @@
 #pragma once
 
 #include "metadata/Id3Tags.h"
+#include "platform/FileBytes.h"
 
 #include <QByteArray>
 
 namespace metadata {
 
 constexpr qint64 Id3v1Size = 128;
+
+// The end of a file in which tags may stand, read at once.
+struct FileEnd
+{
+    QByteArray id3v1;    // the block, or empty
+    QByteArray audio;    // the last bytes in front of it, in which a Lyrics3 block may end
+    qint64 audioEnd = 0; // the last byte in front of it, counted from 1
+};
+
+FileEnd ReadFileEnd(const platform::FileBytes& file);
 
 // Fills what is still empty from a block. REQUIRES: it has Id3v1Size bytes.
 void FillFromId3v1(QByteArrayView block, Id3Tags& tags);

@@ -167,27 +167,23 @@ void ReadLyrics3Fields(QByteArrayView block, Id3Tags& tags)
     }
 }
 
-Lyrics3Found ReadLyrics3(const platform::FileBytes& file, qint64 audioEnd, Id3Tags& tags)
+Lyrics3Found ReadLyrics3(const platform::FileBytes& file, QByteArrayView end, qint64 audioEnd, Id3Tags& tags)
 {
-    constexpr qint64 markSize = 9;
-    constexpr qint64 sizeSize = 6;
+    constexpr qint64 digitCount = 6;
     Lyrics3Found found;
     found.audioEnd = audioEnd;
-    const qint64 start = std::max<qint64>(0, audioEnd - markSize - sizeSize);
-    const QByteArray tail = file.Read(start, audioEnd - start);
-    const QByteArray mark = tail.right(markSize);
-    if (mark == "LYRICS200") {
+    if (end.endsWith("LYRICS200")) {
         found.version2 = true;
-        const QByteArray digits = tail.first(sizeSize);
-        const qint64 size = tail.size() == markSize + sizeSize && IsDigits(digits) ? ToNumber(digits) : 0;
-        const qint64 end = audioEnd - markSize - sizeSize - size;
-        const QByteArray block = file.Read(end, size);
+        const QByteArrayView digits = end.first(end.size() == Lyrics3EndSize ? digitCount : 0);
+        const qint64 size = IsDigits(digits) ? ToNumber(digits) : 0;
+        const qint64 blockEnd = audioEnd - Lyrics3EndSize - size;
+        const QByteArray block = file.Read(blockEnd, size);
         if (block.startsWith(BlockBegin)) {
-            found.audioEnd = end;
+            found.audioEnd = blockEnd;
             found.block = block;
             ReadLyrics3Fields(block, tags);
         }
-    } else if (mark == "LYRICSEND") {
+    } else if (end.endsWith("LYRICSEND")) {
         found.version1 = true;
         ReadVersion1(file, audioEnd, tags);
     }

@@ -19,8 +19,12 @@ struct Lyrics3Found
     QByteArray block;    // of version 2, from "LYRICSBEGIN" to its last field
 };
 
-// Looks for a block that ends at `audioEnd`, counted from 1, and fills the texts that are still empty.
-Lyrics3Found ReadLyrics3(const platform::FileBytes& file, qint64 audioEnd, Id3Tags& tags);
+// What a block ends with: six digits and "LYRICS200" or "LYRICSEND".
+constexpr qint64 Lyrics3EndSize = 15;
+
+// Looks for a block that ends at `audioEnd`, counted from 1, and fills the texts that are still empty. `end`
+// are the bytes up to there, Lyrics3EndSize of them or as many as there are.
+Lyrics3Found ReadLyrics3(const platform::FileBytes& file, QByteArrayView end, qint64 audioEnd, Id3Tags& tags);
 
 // Applies the fields of a version 2 block, which begins with "LYRICSBEGIN". A size that isn't all digits ends
 // the fields.

@@ -6,7 +6,7 @@
 #include "platform/Conversions.h"
 #include "platform/FileBytes.h"
 
-#include <array>
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -14,7 +14,6 @@ namespace metadata {
 
 namespace {
 
-constexpr std::size_t HeadSize = 4'096;
 constexpr std::size_t EntrySize = 12;
 
 // Numbers of four bytes are signed, so a larger one overflows.
@@ -41,45 +40,53 @@ std::optional<qint32> OffsetOf(const QString& text)
 void clsEXIF::SetImageFile(const QString& path)
 {
     imageFile_ = path;
-    const QByteArray head = platform::ReadHead(path, HeadSize);
+    std::array<char, HeadSize> head;
+    const std::size_t size = platform::ReadHead(path, head);
     ini_.Refresh();
-    ReadMetaInfo({head.constData(), static_cast<std::size_t>(head.size())});
+    std::fill(head.begin() + static_cast<std::ptrdiff_t>(size), head.end(), '\0');
+    Take(head, size);
 }
 
 void clsEXIF::ReadMetaInfo(std::string_view head)
 {
-    status_ = Status::Read;
-    if (head.empty()) {
-        return; // and what was read before stays
-    }
     std::array<char, HeadSize> bytes{};
     head.copy(bytes.data(), HeadSize);
-    const std::string_view text(bytes.data(), bytes.size());
-    const std::size_t found = text.find(std::string_view("Exif\0", 5));
+    Take(bytes, head.size());
+}
+
+// A head with zero bytes behind its end, and how many there are in front of them.
+void clsEXIF::Take(const std::array<char, HeadSize>& bytes, std::size_t size)
+{
+    status_ = Status::Read;
+    if (size == 0) {
+        return; // and what was read before stays
+    }
+    const std::size_t found =
+        std::string_view(bytes.data(), bytes.size()).find(std::string_view("Exif\0", 5));
     if (found == std::string_view::npos) {
         status_ = Status::NotExif;
         return;
     }
-    const ByteView buffer(text);
-    const std::size_t base = found + 1 + 6; // of the TIFF header, counted from 1
-    const bool isIntel = buffer.Part(base, 2).value_or(ByteView()).Bytes() == "II";
-    order_ = isIntel ? ByteOrder::LittleEndian : ByteOrder::BigEndian;
+    head_ = bytes;
     records_.clear();
-    const std::uint32_t told = buffer.UInt32(base + 4, order_).value_or(0);
+    const std::size_t base = found + 1 + 6; // of the TIFF header, counted from 1
+    const bool isIntel = Head().Part(base, 2).value_or(ByteView()).Bytes() == "II";
+    order_ = isIntel ? ByteOrder::LittleEndian : ByteOrder::BigEndian;
+    const std::uint32_t told = Head().UInt32(base + 4, order_).value_or(0);
     const auto first = static_cast<qint32>(told <= Greatest ? told : 0);
     // Where the first directory ended early, or had no such entry, the second is read at offset 0: the header
     // passes for a directory then.
-    const qint32 second = ReadIfd(buffer, base, first, ExifOffset);
-    ReadIfd(buffer, base, second, ExifInteroperabilityOffset);
+    const qint32 second = ReadIfd(base, first, ExifOffset);
+    ReadIfd(base, second, ExifInteroperabilityOffset);
 }
 
 // Reads the directory at an offset. Gives what the searched tag says, 0 if the directory has none or ends at
 // an entry that can't be read; that entry and all behind it stay blank.
-qint32 clsEXIF::ReadIfd(const ByteView& buffer, std::size_t base, qint32 offset, int searchedTag)
+qint32 clsEXIF::ReadIfd(std::size_t base, qint32 offset, int searchedTag)
 {
     const qint64 start = static_cast<qint64>(base) + offset;
     auto position = static_cast<std::size_t>(std::max<qint64>(0, start)); // 0 is nowhere
-    const auto count = buffer.UInt16(position, order_);
+    const auto count = Head().UInt16(position, order_);
     if (!count) {
         return 0;
     }
@@ -88,11 +95,11 @@ qint32 clsEXIF::ReadIfd(const ByteView& buffer, std::size_t base, qint32 offset,
     position += 2;
     qint32 result = 0;
     for (std::size_t slot = firstSlot; slot < records_.size(); ++slot, position += EntrySize) {
-        if (!ReadEntry(buffer, base, position, records_[slot])) {
+        if (!ReadEntry(base, position, records_[slot])) {
             return 0;
         }
         if (records_[slot].TagNum == searchedTag) {
-            const auto told = OffsetOf(records_[slot].Text);
+            const auto told = OffsetOf(Text(records_[slot]));
             if (!told) {
                 return 0;
             }
@@ -103,13 +110,13 @@ qint32 clsEXIF::ReadIfd(const ByteView& buffer, std::size_t base, qint32 offset,
 }
 
 // Fills a record as far as it goes. False if the entry can't be read to its end.
-bool clsEXIF::ReadEntry(const ByteView& buffer, std::size_t base, std::size_t position,
-                        ExifTagRecord& record) const
+bool clsEXIF::ReadEntry(std::size_t base, std::size_t position, ExifTagRecord& record) const
 {
-    const auto tag = buffer.UInt16(position, order_);
-    const auto format = buffer.UInt16(position + 2, order_);
-    const auto components = buffer.UInt32(position + 4, order_);
-    const auto value = buffer.UInt32(position + 8, order_);
+    const ByteView head = Head();
+    const auto tag = head.UInt16(position, order_);
+    const auto format = head.UInt16(position + 2, order_);
+    const auto components = head.UInt32(position + 4, order_);
+    const auto value = head.UInt32(position + 8, order_);
     record.TagNum = tag.value_or(0);
     record.Format = format.value_or(0);
     if (!value || *components > Greatest) {
@@ -117,23 +124,39 @@ bool clsEXIF::ReadEntry(const ByteView& buffer, std::size_t base, std::size_t po
     }
     record.Components = *components;
     record.Value = *value;
-    record.TagName = ExifTagName(record.TagNum);
+    record.hasName = true;
     const auto componentSize = ExifFormatSize(record.Format);
     if (!componentSize) {
         return false;
     }
     const std::uint64_t size = std::uint64_t{*componentSize} * record.Components;
-    const auto raw = size > 4 ? buffer.Part(base + *value, size) : buffer.Part(position + 8, 4);
-    if (!raw) {
+    const std::uint64_t at = size > 4 ? base + *value : position + 8;
+    const auto raw = head.Part(at, std::max<std::uint64_t>(4, size));
+    if (!raw ||
+        !TakeExifValue({record.TagNum, record.Format, record.Components, *raw, order_}, record.Value)) {
         return false;
     }
-    auto text = ExifValueText({record.TagNum, record.Format, record.Components, *raw, order_}, record.Value);
-    if (!text) {
-        return false;
-    }
-    text->remove(QChar::Null);
-    record.Text = ini_.IsEmpty() ? *text : Reworded(record.TagName, *text);
+    record.position = static_cast<std::uint32_t>(at);
+    record.size = static_cast<std::uint32_t>(raw->Size());
+    record.hasText = true;
     return true;
+}
+
+QString clsEXIF::TagName(const ExifTagRecord& record) const
+{
+    return record.hasName ? ExifTagName(record.TagNum) : QString();
+}
+
+QString clsEXIF::Text(const ExifTagRecord& record) const
+{
+    const auto raw = Head().Part(record.position, record.size);
+    if (!record.hasText || !raw) {
+        return {};
+    }
+    QString text =
+        ExifValueText({record.TagNum, record.Format, record.Components, *raw, order_}, record.Value);
+    text.remove(QChar::Null);
+    return ini_.IsEmpty() ? text : Reworded(TagName(record), text);
 }
 
 QString clsEXIF::Reworded(const QString& tagName, const QString& text) const
@@ -152,7 +175,7 @@ std::optional<qint64> clsEXIF::MetaInfo(int TagNum, QString& text) const
     }
     for (const ExifTagRecord& record : records_) {
         if (record.TagNum == TagNum) {
-            text = record.Text;
+            text = Text(record);
             return static_cast<qint64>(std::nearbyint(record.Value));
         }
     }
@@ -174,8 +197,7 @@ QString clsEXIF::ListInfo(QStringList& list) const
     list.clear();
     list.reserve(static_cast<qsizetype>(records_.size()));
     for (const ExifTagRecord& record : records_) {
-        list << (record.TagName.isEmpty() && record.Text.isEmpty() ? blank
-                                                                   : record.TagName + blank + record.Text);
+        list << (record.hasName ? TagName(record) + blank + Text(record) : blank);
     }
     return {};
 }

@@ -15,6 +15,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <vector>
@@ -25,11 +26,15 @@ namespace metadata {
 struct ExifTagRecord
 {
     int TagNum = 0;
-    QString TagName;
     int Format = 0;
     std::uint32_t Components = 0;
     double Value = 0; // the entry's four bytes as a number; of a fraction its value
-    QString Text;
+
+    // Name and text are made when they are asked for, see TagName and Text of clsEXIF.
+    bool hasName = false;
+    bool hasText = false;
+    std::uint32_t position = 0; // of the value's bytes in the head, counted from 1
+    std::uint32_t size = 0;
 };
 
 class clsEXIF
@@ -64,19 +69,25 @@ public:
     QString ListInfo(QStringList& list) const;
 
     const std::vector<ExifTagRecord>& Records() const { return records_; }
+    QString TagName(const ExifTagRecord& record) const;
+    QString Text(const ExifTagRecord& record) const;
 
     // What SetImageFile does with a file's head. Bytes behind its end read zero, up to 4,096.
     void ReadMetaInfo(std::string_view head);
 
 private:
-    qint32 ReadIfd(const ByteView& buffer, std::size_t base, qint32 offset, int searchedTag);
-    bool ReadEntry(const ByteView& buffer, std::size_t base, std::size_t position,
-                   ExifTagRecord& record) const;
+    static constexpr std::size_t HeadSize = 4'096;
+
+    ByteView Head() const { return ByteView(std::string_view(head_.data(), head_.size())); }
+    void Take(const std::array<char, HeadSize>& bytes, std::size_t size);
+    qint32 ReadIfd(std::size_t base, qint32 offset, int searchedTag);
+    bool ReadEntry(std::size_t base, std::size_t position, ExifTagRecord& record) const;
     QString Reworded(const QString& tagName, const QString& text) const;
 
     QString imageFile_;
     Status status_ = Status::Read;
     ByteOrder order_ = ByteOrder::BigEndian;
+    std::array<char, HeadSize> head_{}; // that the records were read from
     std::vector<ExifTagRecord> records_;
     platform::ProfileFile ini_;
 };

@@ -23,16 +23,13 @@ void clsID3::RefreshID3Tags()
         return;
     }
     const qint64 audioStart = ReadStart(*file);
-    qint64 audioEnd = file->Size(); // the position of the last audio byte, counted from 1
-    const QByteArray tail =
-        audioEnd >= Id3v1Size ? file->Read(audioEnd - Id3v1Size, Id3v1Size) : QByteArray();
-    hasId3v1_ = tail.size() == Id3v1Size && tail.startsWith("TAG");
-    audioEnd -= hasId3v1_ ? Id3v1Size : 0;
-    const Lyrics3Found lyrics = ReadLyrics3(*file, audioEnd, *this);
+    const FileEnd end = ReadFileEnd(*file);
+    hasId3v1_ = !end.id3v1.isEmpty();
+    const Lyrics3Found lyrics = ReadLyrics3(*file, end.audio, end.audioEnd, *this);
     hasLyrics3v1_ = lyrics.version1;
     hasLyrics3v2_ = lyrics.version2;
     if (hasId3v1_) {
-        FillFromId3v1(tail, *this);
+        FillFromId3v1(end.id3v1, *this);
     }
     mpeg_ = MpegHeader(*file, audioStart, lyrics.audioEnd);
 }

@@ -30,13 +30,11 @@ Layout LayoutOf(const platform::FileBytes& file)
         layout.frames = FramesOf(header, file.Read(Id3v2HeaderSize, header.size));
         layout.audioStart = Id3v2HeaderSize + 1 + header.size + (header.hasFooter ? Id3v2HeaderSize : 0);
     }
-    const qint64 size = file.Size();
-    const bool hasId3v1 = size >= Id3v1Size && file.Read(size - Id3v1Size, Id3v1Size).startsWith("TAG");
-    const qint64 end = size - (hasId3v1 ? Id3v1Size : 0);
+    const FileEnd end = ReadFileEnd(file);
     Id3Tags unused;
-    const Lyrics3Found lyrics = ReadLyrics3(file, end, unused);
+    const Lyrics3Found lyrics = ReadLyrics3(file, end.audio, end.audioEnd, unused);
     layout.lyrics = lyrics.block;
-    layout.audioEnd = lyrics.version1 ? AudioEndBeforeVersion1(file, end) : lyrics.audioEnd;
+    layout.audioEnd = lyrics.version1 ? AudioEndBeforeVersion1(file, end.audioEnd) : lyrics.audioEnd;
     return layout;
 }
 

@@ -136,6 +136,10 @@ QString DefaultText(double value, int significantDigits)
     if (!std::isfinite(value)) {
         return QString::number(value); // no file size comes to that
     }
+    constexpr double shortWhole = 1'000'000; // which every number of digits tells
+    if (std::fabs(value) < shortWhole && value == std::trunc(value)) {
+        return QString::number(static_cast<int>(value));
+    }
     const Scientific number = ToScientific(std::fabs(value), significantDigits);
     QString digits = QString::fromStdString(number.digits);
     while (digits.size() > 1 && digits.endsWith(u'0')) {

@@ -11,6 +11,25 @@
 
 namespace platform {
 
+namespace {
+
+// Fills `content` from an offset on. Gives how many bytes there were.
+std::size_t ReadAt(const Descriptor& file, qint64 offset, std::span<char> content)
+{
+    std::size_t filled = 0;
+    while (filled < content.size()) {
+        const ssize_t read = ::pread(file.Number(), content.data() + filled, content.size() - filled,
+                                     offset + static_cast<qint64>(filled));
+        if (read == 0 || (read < 0 && errno != EINTR)) {
+            break; // the file ends, or the disk fails
+        }
+        filled += static_cast<std::size_t>(std::max<ssize_t>(0, read));
+    }
+    return filled;
+}
+
+} // namespace
+
 std::optional<FileBytes> FileBytes::Open(const QString& path)
 {
     const auto bytes = ToPath(path);
@@ -30,23 +49,20 @@ QByteArray FileBytes::Read(qint64 offset, qint64 count) const
         return {};
     }
     QByteArray content(wanted, Qt::Uninitialized);
-    qint64 filled = 0;
-    while (filled < wanted) {
-        const ssize_t read = ::pread(file_.Number(), content.data() + filled,
-                                     static_cast<std::size_t>(wanted - filled), offset + filled);
-        if (read == 0 || (read < 0 && errno != EINTR)) {
-            break; // it has become shorter, or the disk fails
-        }
-        filled += std::max<ssize_t>(0, read);
-    }
-    content.truncate(filled);
+    content.truncate(static_cast<qsizetype>(
+        ReadAt(file_, offset, {content.data(), static_cast<std::size_t>(content.size())})));
     return content;
 }
 
-QByteArray ReadHead(const QString& path, qint64 count)
+// Without asking what kind of file it is: a pipe or a terminal can't be read at an offset, and nothing
+// blocks.
+// It isn't asked what kind of file this is: a pipe or a terminal can't be read at an offset, and nothing
+// blocks.
+std::size_t ReadHead(const QString& path, std::span<char> head)
 {
-    const auto file = FileBytes::Open(path);
-    return file ? file->Read(0, count) : QByteArray();
+    const auto bytes = ToPath(path);
+    const Descriptor file(bytes ? ::open(bytes->constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK) : -1);
+    return file.IsOpen() ? ReadAt(file, 0, head) : 0;
 }
 
 } // namespace platform

@@ -11,11 +11,13 @@
 
 #include <ctime>
 #include <optional>
+#include <span>
 
 namespace platform {
 
-// The first `count` bytes of a file, or all if it has fewer; it is opened once. Empty if it can't be read.
-QByteArray ReadHead(const QString& path, qint64 count);
+// Reads the first bytes of a file, as many as there is room for; it is opened once. Gives how many there
+// were: 0 if it can't be read.
+std::size_t ReadHead(const QString& path, std::span<char> head);
 
 // When a file was used and changed last.
 struct FileTimes
