@@ -157,13 +157,16 @@ public:
         workspace::Pickers pickers(state_, random_);
         QComboBox combo;
         combo.setEditable(true);
-        for (const char* entry : {"$modified_date$", "$current_time$", "$Random String$"}) {
+        state_.MetadataChoice = 6; // the date of a picture, which opens a picker of its own
+        for (const char* entry :
+             {"$modified_date$", "$current_time$", "$Random String$", "$MP3 Data$", "$Exif Data$"}) {
             pickers.Pick(QLatin1String(entry), combo, workspace::MaskFrom::Window);
-            QWidget* picker = nullptr;
+            QApplication::processEvents();
             for (QWidget* each : QApplication::topLevelWidgets()) {
-                picker = each->isVisible() && each->inherits("QDialog") ? each : picker;
+                if (each->isVisible() && each->inherits("QDialog")) {
+                    Shoot(*each, each->objectName());
+                }
             }
-            Shoot(*picker, picker->objectName());
         }
     }
 
