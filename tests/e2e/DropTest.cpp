@@ -5,6 +5,8 @@
 // the disk.
 #include "documents/RenameDocument.h"
 #include "e2e/Program.h"
+#include "metadata/ExifBuilder.h"
+#include "metadata/Mp3Builder.h"
 #include "platform/NameBytes.h"
 
 #include <gtest/gtest.h>
@@ -13,7 +15,7 @@ namespace e2e {
 
 namespace {
 
-// Replaces the first character or all of the base by `text`.
+// Replaces the first character or all of the base by `text`, or puts it in front.
 actions::RenameOptions Replacing(model::ActionKind kind, const QString& text)
 {
     actions::RenameOptions options;
@@ -22,6 +24,7 @@ actions::RenameOptions Replacing(model::ActionKind kind, const QString& text)
     }
     options.replaceFirst.Text1 = u"1"_qs;
     options.replaceFirst.cmbFirst.combo = options.replaceAll.cmbAll.combo = text;
+    options.prefix.cmbPrefix.combo = text;
     return options;
 }
 
@@ -145,6 +148,26 @@ TEST_F(Drop, TheSampleRecipesDoWhatTheirReadmeSays)
     EXPECT_EQ(files.Names(), capitals);
     Run(samples + u"numbered.rnp"_qs, capitals);
     EXPECT_EQ(files.Names().join(u' '), u"photo-0001.jpg photo-0002.jpg photo-0003.JPG"_qs);
+}
+
+TEST_F(Drop, NamesComeFromPicturesAndMusic)
+{
+    QStringList wanted;
+    for (const char* day : {"05", "17", "29"}) {
+        const std::string date = "2009:11:" + std::string(day) + " 12:04:04";
+        files.Write(
+            u"IMG_"_qs + QLatin1String(day) + u".jpg"_qs,
+            QByteArray::fromStdString(testing_support::ExifBuilder().Add(306, 2, 20, date).Picture()));
+        wanted << u"200911"_qs + QLatin1String(day) + u"IMG_"_qs + QLatin1String(day) + u".jpg"_qs;
+    }
+    Run(Replacing(model::ActionKind::Prefix, u"$Exif_date_$yyyymmdd$"_qs), files.Names());
+    EXPECT_EQ(files.Names(), wanted);
+    for (const char* artist : {"Bach", "Abba"}) {
+        files.Write(QLatin1String(artist).right(2) + u".mp3"_qs,
+                    testing_support::Audio(0xFFFB9000) + testing_support::Id3v1("Title", artist, "", 17));
+    }
+    Run(Replacing(model::ActionKind::Prefix, u"$MP3_ID3_Artist"_qs), {u"ba.mp3"_qs, u"ch.mp3"_qs});
+    EXPECT_EQ(files.Names(), wanted + QStringList({u"Abbaba.mp3"_qs, u"Bachch.mp3"_qs}));
 }
 
 } // namespace
