@@ -39,6 +39,11 @@ void ReadFileList(QByteArrayView document)
 void ReadManagedList(QByteArrayView document)
 {
     Check(document, app::LoadManagedList, app::SaveManagedList);
+    const auto files = app::LoadManagedList(WriteFile("files.lst", document));
+    for (const app::ListedFile& file : *files) {
+        Require(file.folder.isEmpty() || file.folder.endsWith(u'/'), "a folder ends with a separator");
+        Require(!file.name.contains(u'/'), "a name has no separator");
+    }
 }
 
 } // namespace fuzz

@@ -25,10 +25,11 @@ void CheckAudio(const metadata::MpegHeader& audio, QByteArrayView file)
     }
 }
 
+// Whether what follows the file can't become a part of the tag at its start.
 bool HoldsItsTag(QByteArrayView file)
 {
     const auto header = metadata::ReadId3v2Header(file);
-    return !header || metadata::Id3v2HeaderSize + header->size <= file.size();
+    return file.size() >= metadata::Id3v2HeaderSize + (header ? header->size : 0);
 }
 
 } // namespace

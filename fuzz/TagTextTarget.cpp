@@ -5,8 +5,6 @@
 #include "metadata/modUTF8.h"
 #include "platform/TextFile.h"
 
-#include <algorithm>
-
 namespace fuzz {
 
 namespace {
@@ -50,7 +48,7 @@ void CheckFrameList(QByteArrayView steps)
     metadata::MultiFrameData frames;
     for (qsizetype at = 0; at + 2 < steps.size(); at += 3) {
         const int before = frames.Count();
-        const int position = static_cast<signed char>(steps[at + 1]);
+        const int position = static_cast<uchar>(steps[at + 1]) - 8; // in front of the list, too
         const bool isThere = position >= 1 && position <= before;
         const QByteArray text(1, steps[at + 2]);
         switch (steps[at] & 7) {

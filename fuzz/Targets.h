@@ -13,6 +13,7 @@ namespace fuzz {
 
 // Each throws std::logic_error with a sentence where its reader breaks what must hold.
 void ReadExif(QByteArrayView picture);         // a picture's head
+void InspectPicture(QByteArrayView picture);   // a whole picture; also a segment of one
 void ReadId3v2Tag(QByteArrayView tag);         // an ID3v2 tag; bytes that begin with none are frames of one
 void ReadMp3(QByteArrayView file);             // an MP3 from its first byte to its last
 void WriteMp3Tags(QByteArrayView file);        // the same; its tags are written, read back and taken out

@@ -13,6 +13,7 @@
 #include "documents/ui/frmRenDrop.h"
 #include "documents/ui/frmRenListMan.h"
 #include "fileview/ui/ListViewEditable.h"
+#include "metadata/ui/formExif.h"
 #include "platform/TextFile.h"
 #include "workspace/ui/ReadableStyle.h"
 #include "workspace/ui/frmLog.h"
@@ -168,6 +169,13 @@ public:
                 }
             }
         }
+    }
+
+    void ShootExifViewer()
+    {
+        metadata::formExif viewer;
+        viewer.ShowFile(QStringLiteral(QUILLMARK_TEST_DATA "/exif-first-little-endian.jpg"));
+        Shoot(viewer, viewer.objectName());
     }
 
     void ShootDrop()
@@ -425,6 +433,7 @@ int main(int argc, char** argv)
     studio.ShootLog();
     studio.ShootReplaceLists();
     studio.ShootPickers();
+    studio.ShootExifViewer();
     studio.ShootDrop();
     studio.ShootManager();
     studio.ShootFileList();

@@ -8,6 +8,16 @@
 #include <QFile>
 
 #include <gtest/gtest.h>
+#include <ostream>
+
+namespace fuzz {
+
+void PrintTo(const Target& target, std::ostream* out)
+{
+    *out << target.name;
+}
+
+} // namespace fuzz
 
 namespace {
 

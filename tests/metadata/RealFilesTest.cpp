@@ -4,6 +4,7 @@
 // from them lies beside each. What the builders of bytes and the readers both got wrong shows here.
 #include "metadata/Id3Keys.h"
 #include "metadata/clsEXIF.h"
+#include "metadata/modExif.h"
 
 #include <QDir>
 #include <QFile>
@@ -63,6 +64,32 @@ TEST(RealPictures, TellWhatOtherProgramsRead)
                 << path.toStdString() << ' ' << key.toStdString();
         }
     }
+}
+
+TEST(RealPictures, AreInspected)
+{
+    const auto lines = [](const char* name) {
+        std::vector<metadata::ExifLine> list;
+        platform::Status failure;
+        QStringList texts;
+        const QString path = QDir(QStringLiteral(QUILLMARK_TEST_DATA)).filePath(QLatin1String(name));
+        EXPECT_TRUE(metadata::modExif().ParseExifSegment(path, list, failure));
+        for (const metadata::ExifLine& line : list) {
+            texts << line.text;
+        }
+        return texts;
+    };
+    const QStringList little = lines("exif-first-little-endian.jpg");
+    for (const char* line :
+         {"Equipment Make = Maker of Cameras", "Orientation of image = 1st Row is right, 1st Col is top",
+          "Exposure Time = 0.004", "F-Number = 2.8", "ISO speed rating = 400", "Metering mode = Pattern",
+          "Date Picture Taken = 2019:08:07 16:05:03", "Color space information = Uncalibrated",
+          "GPS Altitude = 300", "GPS Latitude = 48", "Interoperability Identification = Undefined/Unknown"}) {
+        EXPECT_TRUE(little.contains(QLatin1String(line))) << line;
+    }
+    const QStringList big = lines("exif-first-big-endian.jpg");
+    EXPECT_EQ(big.value(0).toStdString(), "Motarola Header Format - Might have prob's");
+    EXPECT_TRUE(big.contains(QStringLiteral("Camera Model = Endian")));
 }
 
 TEST(RealMusic, TellsWhatOtherProgramsRead)
