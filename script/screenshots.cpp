@@ -175,6 +175,7 @@ public:
     {
         metadata::formExif viewer;
         viewer.ShowFile(QStringLiteral(QUILLMARK_TEST_DATA "/exif-first-little-endian.jpg"));
+        viewer.findChild<QLabel*>()->setText(SampleFolder + SampleNames.first());
         Shoot(viewer, viewer.objectName());
     }
 
