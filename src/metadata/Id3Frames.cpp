@@ -153,7 +153,7 @@ std::optional<Id3Frame> Id3FrameWalk::Next()
     const QByteArrayView content = bytes_.sliced(at_, std::min<qint64>(size, Left()));
     const int flags = major_ < 3 ? 0 : static_cast<uchar>(content[9]);
     at_ += content.size();
-    return Id3Frame{id, flags, content.sliced(headerSize), content};
+    return Id3Frame{id, flags, content.sliced(headerSize), content, content.size() < size};
 }
 
 Id3FrameContent::Id3FrameContent(int major, const Id3Frame& frame)

@@ -19,6 +19,7 @@ struct Id3Frame
     int formatFlags = 0;    // the second of the two flag bytes
     QByteArrayView data;    // as much as there is of it
     QByteArrayView content; // the same with its header
+    bool isCutOff = false;  // by the bytes' end
 };
 
 // Steps through the frames of a tag, given without header and extended header.

@@ -124,7 +124,7 @@ private:
     {
         if (IsComment(frame.id)) {
             if (DecodeFrameText(major_, frame).hasDescription) {
-                frames_.append(frame.content.data(), frame.content.size());
+                Keep(frame);
             } else if (left_.removeOne(frame.id)) {
                 AppendValue(frame.id);
             }
@@ -136,8 +136,21 @@ private:
             AppendValue(frame.id);
             left_.removeOne(frame.id);
         } else {
-            frames_.append(frame.content.data(), frame.content.size());
+            Keep(frame);
         }
+    }
+
+    // As it is; but one that the tag's end cut off is given the size that it has, or it would swallow what
+    // comes behind it now.
+    void Keep(const Id3Frame& frame)
+    {
+        QByteArray content = frame.content.toByteArray();
+        if (frame.isCutOff) {
+            const qsizetype idSize = frame.id.size();
+            const auto size = SizeBytes(frame.data.size(), static_cast<int>(idSize), major_ >= 4);
+            content.replace(idSize, idSize, size.value_or(QByteArray(idSize, '\0')));
+        }
+        frames_ += content;
     }
 
     void AppendEntry(const QByteArray& id, std::size_t repeating)

@@ -133,6 +133,8 @@ TEST_F(Id3Writing, EachVersionKeepsItsForm)
         {"2.2", Tagged(2, Text("TT2", "A") + Text("TYE", "1999") + Id3Frame("CRM", "x"), 5),
          Tagged(2, Text("TT2", "A") + Text("TYE", "1999") + Id3Frame("CRM", "x") + Text("TCO", "(255)"), 5)},
         {"2.2, compressed", Id3Tag(2, "zipped", 64) + TheAudio, Tagged(2, Text("TCO", "(255)"), 2'048)},
+        {"2.3, cut off", Id3Tag(3, Id3Frame("TXXX", Bytes("\0Key\0Value"sv)).chopped(3)) + TheAudio,
+         Tagged(3, Id3Frame("TXXX", Bytes("\0Key\0Va"sv)) + Text("TCON", "(255)"), 2'048)},
         {"2.3, unsynchronised", Tagged(3, unsynced, 1, 128),
          Tagged(3, Text("TPUB", "\xFF\xE0") + Text("TCON", "(255)"), 1)},
         {"2.3, extended header: its flag stays",
