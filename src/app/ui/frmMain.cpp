@@ -29,16 +29,12 @@
 #include <QLocale>
 #include <QMenuBar>
 #include <QMessageBox>
-#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSplitter>
 #include <QTableView>
-#include <QTimer>
-
-#include <chrono>
 
 namespace app {
 
@@ -157,39 +153,6 @@ void frmMain::RunCommand(int id)
     default:
         break;
     }
-}
-
-void frmMain::ConnectList()
-{
-    using fileview::ListProperties;
-    using fileview::ListViewEditable;
-    lvw2_->Set(&ListProperties::Checkboxes, true);
-    lvw2_->Set(&ListProperties::HideSelection, true);
-    lvw2_->Set(&ListProperties::MultiSelect, false);
-    lvw2_->Set(&ListProperties::AutoPopupMenu, true);
-    connect(lvw2_, &ListViewEditable::Click, this, [this] { gathering_.ListClicked(); });
-    connect(lvw2_, &ListViewEditable::ColumnClick, this, [this] { gathering_.RefreshCheckedCount(); });
-    connect(lvw2_, &ListViewEditable::KeyDown, this, [this] { gathering_.RefreshCheckedCount(); });
-    connect(lvw2_, &ListViewEditable::OLEDragDrop, this, [this] { gathering_.FilesDropped(); });
-    connect(lvw2_, &ListViewEditable::MenuCommandDone, this, [this] { gathering_.ListClicked(); });
-    connect(lvw2_, &ListViewEditable::DropBegins, this, [this] { gathering_.DropBegins(); });
-    connect(lvw2_, &ListViewEditable::DropEnds, this, [this] { gathering_.DropEnds(); });
-    connect(lvw2_, &ListViewEditable::Resize, this, &frmMain::FitColumns);
-    connect(Check1_, &QCheckBox::toggled, this, [this](bool on) {
-        Check1_->setText(on ? tr("Un&check All") : tr("&Check All"));
-        gathering_.CheckAll(on);
-    });
-    connect(cmbFileType_, &QComboBox::activated, this,
-            [this] { gathering_.FilterByType(cmbFileType_->currentText()); });
-    connect(txtFilter_, &QLineEdit::textChanged, this, [this](const QString& text) {
-        txtFilter_->setClearButtonEnabled(true); // only now, since its icon takes long to find
-        gathering_.FilterByName(text);
-    });
-    auto* clock = new QTimer(this);
-    clock->setObjectName(QStringLiteral("Timer1"));
-    connect(clock, &QTimer::timeout, this, &frmMain::TellTime);
-    clock->start(std::chrono::seconds(1));
-    TellTime();
 }
 
 void frmMain::TellTime()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The panes of the main window: folders, list, and the bottom with commands, log and progress.
+// The panes of the main window: folders, list, and the bottom with commands, log and progress; and what the
+// list is bound to.
 #include "app/ui/frmMain.h"
 #include "workspace/ui/Fields.h"
 
@@ -10,9 +11,13 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QTimer>
+
+#include <chrono>
 
 namespace app {
 
@@ -176,6 +181,39 @@ QWidget* frmMain::NewBottomPane()
     status->addWidget(Label1_);
     column->addLayout(status);
     return pane;
+}
+
+void frmMain::ConnectList()
+{
+    using fileview::ListProperties;
+    using fileview::ListViewEditable;
+    lvw2_->Set(&ListProperties::Checkboxes, true);
+    lvw2_->Set(&ListProperties::HideSelection, true);
+    lvw2_->Set(&ListProperties::MultiSelect, false);
+    lvw2_->Set(&ListProperties::AutoPopupMenu, true);
+    connect(lvw2_, &ListViewEditable::Click, this, [this] { gathering_.ListClicked(); });
+    connect(lvw2_, &ListViewEditable::ColumnClick, this, [this] { gathering_.RefreshCheckedCount(); });
+    connect(lvw2_, &ListViewEditable::KeyDown, this, [this] { gathering_.RefreshCheckedCount(); });
+    connect(lvw2_, &ListViewEditable::OLEDragDrop, this, [this] { gathering_.FilesDropped(); });
+    connect(lvw2_, &ListViewEditable::MenuCommandDone, this, [this] { gathering_.ListClicked(); });
+    connect(lvw2_, &ListViewEditable::DropBegins, this, [this] { gathering_.DropBegins(); });
+    connect(lvw2_, &ListViewEditable::DropEnds, this, [this] { gathering_.DropEnds(); });
+    connect(lvw2_, &ListViewEditable::Resize, this, &frmMain::FitColumns);
+    connect(Check1_, &QCheckBox::toggled, this, [this](bool on) {
+        Check1_->setText(on ? tr("Un&check All") : tr("&Check All"));
+        gathering_.CheckAll(on);
+    });
+    connect(cmbFileType_, &QComboBox::activated, this,
+            [this] { gathering_.FilterByType(cmbFileType_->currentText()); });
+    connect(txtFilter_, &QLineEdit::textChanged, this, [this](const QString& text) {
+        txtFilter_->setClearButtonEnabled(true); // only now, since its icon takes long to find
+        gathering_.FilterByName(text);
+    });
+    auto* clock = new QTimer(this);
+    clock->setObjectName(QStringLiteral("Timer1"));
+    connect(clock, &QTimer::timeout, this, &frmMain::TellTime);
+    clock->start(std::chrono::seconds(1));
+    TellTime();
 }
 
 } // namespace app
