@@ -1,7 +1,6 @@
 #!/usr/bin/env bash
 # Starts the real program with its real windows on an X server of its own, hands it two files, gives them a prefix by keys
-# alone, leaves the rename window by its Exit button and quits in the main window. It must end by itself with status 0,
-# keep its settings and have renamed both files.
+# alone, and quits in the main window. It must end by itself with status 0, keep its settings and have renamed both files.
 #
 # usage: rename_by_keys.sh QUILLMARK
 set -euo pipefail
@@ -34,7 +33,22 @@ press() {
     fi
     xdotool windowfocus --sync "$(head -1 window)" key "${@:2}"
 }
-# The list of actions, its entry "Prefix" with a check; the box beside it; preview, rename, exit.
-press '^Quillmark - Renamer$' alt+a p space alt+i m y underscore alt+p alt+r alt+x
-press '^Quillmark$' ctrl+q
+press_if_there() {
+    local found
+    found=$(xdotool search --onlyvisible --name "$1" | head -1) || true
+    [ -z "$found" ] || xdotool windowfocus "$found" key "$2" || true # it may have gone meanwhile
+}
+
+# press_until CONDITION TITLE KEY: presses a key in a window, if that is there, until a condition holds. A message that a key came too early is closed.
+press_until() {
+    local condition=$1 title=$2
+    until eval "$condition"; do
+        press_if_there '^Renamer$' Return
+        press_if_there "$title" "$3"
+    done
+}
+# The list of actions, its entry "Prefix" with a check; the box beside it; preview. Rename when that is done, and quit.
+press '^Quillmark - Renamer$' alt+a p space alt+i m y underscore alt+p
+press_until '[ -e my_second.txt ]' '^Quillmark - Renamer$' alt+r
+press_until '! kill -0 "$program" 2>/dev/null' '^Quillmark$' ctrl+q
 wait "$program" || { echo "the program ended with status $?"; exit 1; }
