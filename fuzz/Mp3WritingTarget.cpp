@@ -32,9 +32,11 @@ void WriteMp3Tags(QByteArrayView file)
     metadata::clsID3 again;
     again.SetFileName(path);
     for (const auto text : PlainTexts) {
-        // A text with a zero ends there.
-        const bool isPlain = platform::ToWindows1252(tags.*text) && !(tags.*text).contains(QChar::Null);
-        Require(!isPlain || header->hasExtendedHeader || again.*text == tags.*text, "a text comes back");
+        const QString& wanted = tags.*text;
+        // A text with a zero ends there; what is empty may come from an older tag in front of the new one.
+        const bool isPlain =
+            !wanted.isEmpty() && platform::ToWindows1252(wanted) && !wanted.contains(QChar::Null);
+        Require(!isPlain || header->hasExtendedHeader || again.*text == wanted, "a text comes back");
     }
     Require(header->hasExtendedHeader || again.AttachedPictures.Count() == tags.AttachedPictures.Count(),
             "all pictures come back");

@@ -74,6 +74,33 @@ QString GenreText(const Id3Tags& tags)
     return u'(' + code + u')' + (saysMore ? tags.Genre : QString());
 }
 
+// What the code page lacks is told as addresses tell it.
+QByteArray LinkBytes(const QString& text)
+{
+    if (const auto bytes = platform::ToWindows1252(text)) {
+        return *bytes;
+    }
+    return text.toUtf8().toPercentEncoding(":/?#[]@!$&'()*+,;=%");
+}
+
+// UTF-16 with its mark. Two bytes of neighbours may look like a mark, which readers would take for one; then
+// the other order is better, if it has none.
+QByteArray MarkedUtf16(const QString& text)
+{
+    QByteArray little("\xFF\xFE");
+    QByteArray big("\xFE\xFF");
+    for (const QChar unit : text) {
+        const auto low = static_cast<char>(unit.unicode() & 0xFF);
+        const auto high = static_cast<char>(unit.unicode() >> 8);
+        (little += low) += high;
+        (big += high) += low;
+    }
+    const auto looksMarked = [](const QByteArray& bytes) {
+        return bytes.indexOf("\xFF\xFE", 1) >= 0 || bytes.indexOf("\xFE\xFF", 1) >= 0;
+    };
+    return looksMarked(little) && !looksMarked(big) ? big : little;
+}
+
 class FrameWriter
 {
 public:
@@ -132,7 +159,7 @@ private:
             if (counters_.at(*repeating) <= ListOf(*repeating).Count()) {
                 AppendEntry(frame.id, *repeating);
             }
-        } else if (NamesOf(major_).contains(frame.id)) {
+        } else if (NamesOf(major_).contains(frame.id) || PropertyOfFrame(frame.id)) {
             AppendValue(frame.id);
             left_.removeOne(frame.id);
         } else {
@@ -160,6 +187,9 @@ private:
             AppendText(id, QString::fromUtf8(entry));
             return;
         }
+        if (entry.isEmpty()) {
+            return;
+        }
         const auto encoding = encodings_.value(entry, 0);
         AppendFrame(id, encoding ? static_cast<char>(*encoding) + entry : entry);
     }
@@ -177,25 +207,24 @@ private:
         }
     }
 
-    // An empty text has no frame. A link has no encoding.
+    // An empty text has no frame.
     void AppendText(const QByteArray& id, const QString& text)
     {
         if (text.isEmpty()) {
             return;
         }
-        const QByteArray language = IsComment(id) ? "eng" : "";
-        if (const auto bytes = platform::ToWindows1252(text)) {
-            const QByteArray start = id.startsWith('W') ? QByteArray() : QByteArray(1, '\0') + language;
-            AppendFrame(id, start + QByteArray(language.isEmpty() ? 0 : 1, '\0') + *bytes);
+        if (id.startsWith('W')) { // a link has no encoding
+            AppendFrame(id, LinkBytes(text));
             return;
         }
-        static const QByteArray mark("\xFF\xFE");
-        QByteArray utf16 = mark;
-        for (const QChar unit : text) {
-            utf16 += static_cast<char>(unit.unicode() & 0xFF);
-            utf16 += static_cast<char>(unit.unicode() >> 8);
+        const QByteArray language = IsComment(id) ? "eng" : "";
+        if (const auto bytes = platform::ToWindows1252(text)) {
+            AppendFrame(id, '\0' + language + QByteArray(language.isEmpty() ? 0 : 1, '\0') + *bytes);
+            return;
         }
-        const QByteArray noDescription = language.isEmpty() ? QByteArray() : mark + QByteArray(2, '\0');
+        const QByteArray utf16 = MarkedUtf16(text);
+        const QByteArray noDescription =
+            language.isEmpty() ? QByteArray() : utf16.first(2) + QByteArray(2, '\0');
         AppendFrame(id, '\1' + language + noDescription + utf16);
     }
 
@@ -213,7 +242,10 @@ private:
         while (const auto frame = walk.Next()) {
             if (IsPicture(frame->id)) {
                 const Id3FrameContent content(major_, *frame);
-                encodings_.insert(content.Bytes().toByteArray(), content.Encoding());
+                const QByteArray entry = content.Bytes().toByteArray();
+                if (!encodings_.contains(entry)) { // only the first of equal ones is kept
+                    encodings_.insert(entry, content.Encoding());
+                }
             }
         }
     }

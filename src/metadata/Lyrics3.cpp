@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <string>
 #include <string_view>
 
 namespace metadata {
@@ -104,16 +105,17 @@ QByteArray FieldBytes(QByteArrayView id, QByteArrayView data)
 // What a block tells of a field; empty for no field.
 QByteArray TextOfField(QByteArrayView id, const Id3Tags& tags)
 {
-    constexpr qsizetype longestElsewhere = 30;
-    constexpr qsizetype longest = 250;
+    constexpr std::size_t longestElsewhere = 30;
+    constexpr std::size_t longest = 250;
     QString text = id == "EAL"   ? tags.Album
                    : id == "EAR" ? tags.Artist
                    : id == "ETT" ? tags.Title
                                  : QString();
-    if (text.size() <= longestElsewhere) {
+    const std::u32string characters = text.toStdU32String();
+    if (characters.size() <= longestElsewhere) {
         return {};
     }
-    text.truncate(longest);
+    text = QString::fromStdU32String(characters.substr(0, longest));
     text.replace(QStringLiteral("\r\n"), QStringLiteral("[CR][LF]"));
     text.replace(u'\r', QStringLiteral("[CR]"));
     text.replace(u'\n', QStringLiteral("[LF]"));

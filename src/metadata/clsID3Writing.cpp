@@ -38,6 +38,12 @@ Layout LayoutOf(const platform::FileBytes& file)
     return layout;
 }
 
+// What wasn't read would be lost.
+platform::Status Unreadable()
+{
+    return platform::Status::Failure(QStringLiteral("The file can't be read"));
+}
+
 } // namespace
 
 platform::Status clsID3::UpdateID3Tags()
@@ -49,6 +55,9 @@ platform::Status clsID3::UpdateID3Tags()
     const Layout old = LayoutOf(*file);
     const auto tag = BuildId3v2(old.header, old.frames, *this);
     const auto lyrics = BuildLyrics3(old.lyrics, *this);
+    if (file->HasFailed()) {
+        return Unreadable();
+    }
     if (!tag || !lyrics) {
         return platform::Status::Failure(QStringLiteral("The tag is too large"));
     }
@@ -66,6 +75,9 @@ platform::Status clsID3::DeleteID3Tags()
         return platform::Status::Failure(QStringLiteral("File not found"));
     }
     const Layout old = LayoutOf(*file);
+    if (file->HasFailed()) {
+        return Unreadable();
+    }
     return platform::RewriteFile(path, {}, {old.audioStart - 1, old.audioEnd}, {}, file->Times());
 }
 

@@ -51,6 +51,7 @@ QByteArray FileBytes::Read(qint64 offset, qint64 count) const
     QByteArray content(wanted, Qt::Uninitialized);
     content.truncate(static_cast<qsizetype>(
         ReadAt(file_, offset, {content.data(), static_cast<std::size_t>(content.size())})));
+    hasFailed_ = hasFailed_ || content.size() < wanted;
     return content;
 }
 

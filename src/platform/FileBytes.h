@@ -39,6 +39,10 @@ public:
     // As they were when it was opened; reading may change the first.
     const FileTimes& Times() const { return times_; }
 
+    // Whether a read has given less than there was when the file was opened: the disk fails, or the file has
+    // become shorter.
+    bool HasFailed() const { return hasFailed_; }
+
     // `count` bytes from `offset`, counted from 0, on; fewer where the file ends, and none if it can't be
     // read.
     QByteArray Read(qint64 offset, qint64 count) const;
@@ -51,6 +55,7 @@ private:
     Descriptor file_;
     qint64 size_ = 0;
     FileTimes times_;
+    mutable bool hasFailed_ = false;
 };
 
 } // namespace platform

@@ -102,7 +102,11 @@ Status RewriteFile(const QString& path, const QByteArray& head, FileRange kept, 
 
     Copy copy;
     if (const int error = copy.Create(); error != 0) {
-        return FailureOf(error);
+        return Status::Failure(FailureOf(error).Description() + QStringLiteral(": ") + copy.Path());
+    }
+    const std::array both{times.accessed, times.changed};
+    if (::futimens(file.Number(), both.data()) != 0) {
+        return FailureOf(errno); // only its owner may, and not everybody who may write
     }
     const bool isSafe = WriteAll(copy.File(), head) && Seek(file, begin) &&
                         CopyBytes(file, copy.File(), end - begin) && WriteAll(copy.File(), tail) &&
@@ -119,7 +123,6 @@ Status RewriteFile(const QString& path, const QByteArray& head, FileRange kept, 
         return Status::Failure(FailureOf(error).Description() +
                                QStringLiteral("; the whole file is kept as ") + copy.Path());
     }
-    const std::array both{times.accessed, times.changed};
     return ::futimens(file.Number(), both.data()) == 0 ? Status() : FailureOf(errno);
 }
 

@@ -115,10 +115,12 @@ std::optional<QByteArray> ToWindows1252(const QString& text)
 QByteArray ToWindows1252OrMark(const QString& text)
 {
     QByteArray bytes;
+    QChar before;
     for (const QChar unit : text) {
-        if (!unit.isLowSurrogate()) { // the second half of a character
+        if (!before.isHighSurrogate() || !unit.isLowSurrogate()) { // but for the second half of a character
             bytes += ByteInWindows1252(unit).value_or('?');
         }
+        before = unit;
     }
     return bytes;
 }

@@ -39,7 +39,8 @@ press_if_there() {
     [ -z "$found" ] || xdotool windowfocus "$found" key "$2" || true # it may have gone meanwhile
 }
 
-# press_until CONDITION TITLE KEY: presses a key in a window, if that is there, until a condition holds. A message that a key came too early is closed.
+# press_until CONDITION TITLE KEY: presses a key in a window, if that is there, until a condition holds. A message that the
+# key came too early is closed.
 press_until() {
     local condition=$1 title=$2
     until eval "$condition"; do

@@ -5,6 +5,7 @@
 #include "support/TempFolder.h"
 
 #include <fcntl.h>
+#include <functional>
 #include <gtest/gtest.h>
 #include <sys/mman.h>
 #include <sys/stat.h>
@@ -155,6 +156,66 @@ TEST_F(Id3Writing, EachVersionKeepsItsForm)
         const bool isReadable = !QByteArrayView(row.what).contains("extended");
         EXPECT_EQ(Updated(after, nothing) == after, isReadable) << row.what << ", written again";
     }
+}
+
+TEST_F(Id3Writing, ValuesAndBytesOfTheLastBlock)
+{
+    using metadata::Id3Tags;
+    // what is set, the frame that tells it (or none), the last bytes of the ID3v1 block
+    struct Row
+    {
+        const char* what;
+        std::function<void(Id3Tags&)> set;
+        QByteArray frame;
+        QByteArray end;
+    };
+    const Row rows[] = {
+        {"a code has no byte", [](auto& tags) { tags.Title = u"T"_qs, tags.GenreID = -2; },
+         Text("TCON", "(CR)"), "\x0C"},
+        {"a name beside a number that says nothing",
+         [](auto& tags) { tags.Title = u"T"_qs, tags.GenreID = 12, tags.Genre = u"Polka"_qs; },
+         Text("TCON", "Polka"), "\x4B"},
+        {"a name that says nothing",
+         [](auto& tags) { tags.Title = u"T"_qs, tags.GenreID = 3, tags.Genre = u"Unknown"_qs; },
+         Text("TCON", "(3)"), "\x03"},
+        {"a total alone is nothing",
+         [](auto& tags) { tags.Title = u"T"_qs, tags.TracksTotal = u"9"_qs; },
+         {},
+         Bytes("\0\0\xFF"sv)},
+        {"a track that no byte holds", [](auto& tags) { tags.TrackNumber = u"256"_qs; }, Text("TRCK", "256"),
+         Bytes("\0\0\xFF"sv)},
+        {"a track alone makes a block", [](auto& tags) { tags.TrackNumber = u"255"_qs; }, Text("TRCK", "255"),
+         Bytes("\0\xFF\xFF"sv)},
+        {"a genre alone makes none",
+         [](auto& tags) { tags.GenreID = 12, tags.Genre = u"Other"_qs; },
+         {},
+         "end"},
+        {"30 characters fit",
+         [](auto& tags) { tags.Artist = QString(30, u'a'), tags.GenreID = 0; },
+         {},
+         Bytes("\0\0\0"sv)},
+        {"a link of other letters", [](auto& tags) { tags.PaymentURL = u"http://x/日"_qs; },
+         Id3Frame("WPAY", "http://x/%E6%97%A5"), "end"},
+        {"bytes that look like a mark", [](auto& tags) { tags.Band = u"！ヾ"_qs; },
+         Id3Frame("TPE2", Bytes("\1\xFE\xFF\xFF\x01\x30\xFE"sv)), "end"},
+        {"an empty picture", [](auto& tags) { tags.AttachedPictures.Add({}, true); }, {}, "end"},
+    };
+    for (const Row& row : rows) {
+        const QByteArray after = Updated(TheAudio, [&](clsID3& id3) { row.set(id3); });
+        EXPECT_TRUE(after.contains(row.frame) && after.endsWith(row.end))
+            << row.what << after.right(3).toHex().constData();
+        EXPECT_TRUE(!after.contains("LYRICS") && !after.contains("APIC") &&
+                    (row.frame.startsWith("TRCK") || !after.contains("TRCK")))
+            << row.what;
+    }
+    const QByteArray year = Updated(Tagged(4, Text("TYER", "1999", 4), 9), [](clsID3& id3) {
+        id3.Year = u"2010"_qs;
+        id3.Artist = QString(31, u'a');
+        id3.OriginalReleaseYear = u"1980"_qs;
+    });
+    EXPECT_TRUE(year.contains(Text("TYER", "2010", 4)) && year.contains(Text("TDRC", "2010", 4)) &&
+                year.contains(Text("TDOR", "1980", 4)));
+    EXPECT_TRUE(year.contains(Lyrics3v2("IND0000200" + Lyrics3Field("EAR", QByteArray(31, 'a')))));
 }
 
 TEST_F(Id3Writing, BlocksAtTheEnd)
