@@ -41,27 +41,26 @@ public:
 
     std::optional<std::uint16_t> UInt16(std::size_t position, ByteOrder order) const
     {
-        const auto value = Number(position, 2, order);
-        return value ? std::optional(static_cast<std::uint16_t>(*value)) : std::nullopt;
+        if (!Has(position, 2)) {
+            return std::nullopt;
+        }
+        const std::uint8_t* const at = &bytes_[position - 1];
+        return static_cast<std::uint16_t>(order == ByteOrder::BigEndian ? at[0] << 8 | at[1]
+                                                                        : at[1] << 8 | at[0]);
     }
 
     std::optional<std::uint32_t> UInt32(std::size_t position, ByteOrder order) const
     {
-        return Number(position, 4, order);
-    }
-
-    // An unsigned number of one to four bytes.
-    std::optional<std::uint32_t> Number(std::size_t position, std::size_t count, ByteOrder order) const
-    {
-        if (count > 4 || !Has(position, count)) {
+        if (!Has(position, 4)) {
             return std::nullopt;
         }
-        std::uint32_t value = 0;
-        for (std::size_t at = 0; at < count; ++at) {
-            const std::size_t next = order == ByteOrder::BigEndian ? at : count - 1 - at;
-            value = value << 8 | bytes_[position - 1 + next];
-        }
-        return value;
+        const std::uint8_t* const at = &bytes_[position - 1];
+        const auto join = [](std::uint32_t first, std::uint32_t second, std::uint32_t third,
+                             std::uint32_t fourth) {
+            return first << 24 | second << 16 | third << 8 | fourth;
+        };
+        return order == ByteOrder::BigEndian ? join(at[0], at[1], at[2], at[3])
+                                             : join(at[3], at[2], at[1], at[0]);
     }
 
     // The bytes of a part, as a view of their own.

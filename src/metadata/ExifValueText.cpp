@@ -48,8 +48,8 @@ QString TextOf(std::string_view bytes)
 // The sum of the bytes times powers of 256, in double precision.
 std::optional<double> ReadUnsigned(const ExifValue& value, std::size_t position, std::size_t count)
 {
-    if (count <= 4) {
-        return value.raw.Number(position, count, value.order);
+    if (count == 4) {
+        return value.raw.UInt32(position, value.order);
     }
     const auto part = value.raw.Part(position, count);
     if (!part) {

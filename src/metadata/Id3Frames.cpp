@@ -144,7 +144,7 @@ std::optional<Id3Frame> Id3FrameWalk::Next()
     if (at_ >= bytes_.size()) {
         return std::nullopt;
     }
-    const QByteArray id = bytes_.sliced(at_, std::min(idSize, Left())).toByteArray();
+    const auto id = QByteArray::fromRawData(bytes_.data() + at_, std::min(idSize, Left()));
     const bool isPadding = std::all_of(id.begin(), id.end(), [](char byte) { return byte == '\0'; });
     if (isPadding || IsSignature() || Left() < headerSize) {
         return std::nullopt;

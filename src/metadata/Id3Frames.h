@@ -15,7 +15,7 @@ namespace metadata {
 // A frame whose data lie in the bytes that were walked.
 struct Id3Frame
 {
-    QByteArray id;          // three characters below version 2.3, else four
+    QByteArray id;          // three characters below version 2.3, else four; they lie there, too
     int formatFlags = 0;    // the second of the two flag bytes
     QByteArrayView data;    // as much as there is of it
     QByteArrayView content; // the same with its header

@@ -30,12 +30,13 @@ QString Shortened(const QString& text)
 
 } // namespace
 
+ProfileFile::ProfileFile(QString path) : path_(std::move(path)), pathBytes_(ToPath(path_)) {}
+
 ProfileFile::Stamp ProfileFile::StampNow() const
 {
-    const auto path = ToPath(path_);
     struct stat info
     {};
-    if (!path || ::stat(path->constData(), &info) != 0) {
+    if (!pathBytes_ || ::stat(pathBytes_->constData(), &info) != 0) {
         return {};
     }
     return {info.st_size, info.st_mtim.tv_sec, info.st_mtim.tv_nsec, info.st_ino};

@@ -7,8 +7,11 @@
 //     1 = "fired"
 #pragma once
 
+#include <QByteArray>
 #include <QHash>
 #include <QString>
+
+#include <optional>
 
 namespace platform {
 
@@ -16,7 +19,7 @@ class ProfileFile
 {
 public:
     // Nothing is read yet.
-    explicit ProfileFile(QString path) : path_(std::move(path)) {}
+    explicit ProfileFile(QString path);
 
     // Reads the file if it has changed since the last time. One that isn't there has no sections.
     void Refresh();
@@ -43,6 +46,7 @@ private:
     void Parse(const QStringList& lines);
 
     QString path_;
+    std::optional<QByteArray> pathBytes_; // the same, as it is looked for
     Stamp stamp_;
     QHash<QString, QHash<QString, QString>> values_; // by section and key, both in lower case
 };
