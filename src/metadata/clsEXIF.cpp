@@ -19,6 +19,7 @@ constexpr std::size_t EntrySize = 12;
 // Numbers of four bytes are signed, so a larger one overflows.
 constexpr std::uint32_t Greatest = std::numeric_limits<qint32>::max();
 
+constexpr int PlainLong = 4;                      // the format of an unsigned number of four bytes
 constexpr int ExifOffset = 34665;                 // the tag that tells where the Exif directory lies
 constexpr int ExifInteroperabilityOffset = 40965; // searched for, but what it tells isn't read
 
@@ -27,11 +28,10 @@ QString NotExifText()
     return QStringLiteral("File is not in EXIF format.");
 }
 
-// A text as the offset of a directory: the number at its start, which may be negative. Nothing where it is
-// too large.
-std::optional<qint32> OffsetOf(const QString& text)
+// A number as the offset of a directory, which may be negative. Nothing where it is too large.
+std::optional<qint32> OffsetOf(double told)
 {
-    const double number = std::nearbyint(platform::LeadingNumber(text));
+    const double number = std::nearbyint(told);
     return std::fabs(number) <= Greatest ? std::optional(static_cast<qint32>(number)) : std::nullopt;
 }
 
@@ -99,7 +99,7 @@ qint32 clsEXIF::ReadIfd(std::size_t base, qint32 offset, int searchedTag)
             return 0;
         }
         if (records_[slot].TagNum == searchedTag) {
-            const auto told = OffsetOf(Text(records_[slot]));
+            const auto told = OffsetOf(NumberOf(records_[slot]));
             if (!told) {
                 return 0;
             }
@@ -107,6 +107,13 @@ qint32 clsEXIF::ReadIfd(std::size_t base, qint32 offset, int searchedTag)
         }
     }
     return result;
+}
+
+// The number at the start of a record's text. Where that is one plain number it is what the text would tell.
+double clsEXIF::NumberOf(const ExifTagRecord& record) const
+{
+    const bool isPlain = record.Format == PlainLong && record.Components <= 1 && ini_.IsEmpty();
+    return isPlain ? record.Value : platform::LeadingNumber(Text(record));
 }
 
 // Fills a record as far as it goes. False if the entry can't be read to its end.

@@ -82,6 +82,7 @@ private:
     void Take(const std::array<char, HeadSize>& bytes, std::size_t size);
     qint32 ReadIfd(std::size_t base, qint32 offset, int searchedTag);
     bool ReadEntry(std::size_t base, std::size_t position, ExifTagRecord& record) const;
+    double NumberOf(const ExifTagRecord& record) const;
     QString Reworded(const QString& tagName, const QString& text) const;
 
     QString imageFile_;
