@@ -6,7 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <set>
+#include <utility>
 
 namespace metadata {
 
@@ -31,8 +31,8 @@ QString HexText(double number)
 
 } // namespace
 
-// The directories that are still to be visited, by their kinds. None is visited twice, or one that names
-// itself would never end.
+// The directories that are still to be visited, by their kinds. Of each kind only one is, or those that name
+// themselves or each other would go on for ever.
 class modExif::Pending
 {
 public:
@@ -57,7 +57,7 @@ public:
         for (std::size_t slot = 0; slot < offsets_.size(); ++slot) {
             const double offset = std::exchange(offsets_.at(slot), 0);
             const auto kind = static_cast<IfdKind>(slot);
-            if (offset != 0 && visited_.insert({offset, slot}).second) {
+            if (offset != 0 && !std::exchange(visited_.at(slot), true)) {
                 return std::pair(offset, kind);
             }
         }
@@ -66,7 +66,7 @@ public:
 
 private:
     std::array<double, 3> offsets_{}; // 0 is none
-    std::set<std::pair<double, std::size_t>> visited_;
+    std::array<bool, 3> visited_{};
 };
 
 QString modExif::BytesToHex(QByteArrayView bytes)
