@@ -199,9 +199,11 @@ bool modExif::ReadEntry(QByteArrayView entry, IfdKind kind, Pending& pending, st
         const qsizetype begin = std::min(at, entry.size());
         return SwapBytes(entry.sliced(begin, std::min(size, entry.size() - begin)));
     };
-    const int tag = PlainNumber(field(0, 2));
+    constexpr int noTag = -1; // behind the end of the buffer
+    const QByteArray number = field(0, 2);
+    const int tag = PlainNumber(number);
     bool decodes = false;
-    const QString description = ExifDescription(kind, tag, decodes);
+    const QString description = ExifDescription(kind, number.size() == 2 ? tag : noTag, decodes);
     const double format = BytesToNumber(field(2, 2));
     const double components = BytesToNumber(field(4, 4));
     const QByteArray value = field(8, 4);

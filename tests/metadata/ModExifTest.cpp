@@ -124,6 +124,10 @@ TEST_F(Inspector, DirectoriesAreVisitedInTheirOrderAndNeverTwice)
         << lines.toStdString();
     EXPECT_TRUE(!lines.contains(u" IFD"_qs) &&
                 inspector.ExifRows().at(1) == (modExif::Row{u"110"_qs, u"2"_qs, u"1"_qs}));
+    std::string cut = ExifBuilder().Add(0x8825, 4, 1, "\x1A").Picture();
+    cut.resize(12 + 0x1A, '\0');
+    EXPECT_EQ(LinesOf(Whole(cut + std::string("\1\0\0", 3), 0x1A + 5)), u" = |whole"_qs)
+        << "an entry of one byte has no tag";
     const std::size_t rows = inspector.ExifRows().size();
     LinesOf(Whole(ExifBuilder().Add(0x0100, 3, 1, "\x01").Picture()));
     EXPECT_EQ(inspector.ExifRows().size(), rows) << "older rows stay behind the end";
