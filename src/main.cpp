@@ -5,6 +5,7 @@
 #include "app/ui/Windows.h"
 #include "documents/ui/frmRenDrop.h"
 #include "platform/CommandTail.h"
+#include "platform/FileSystem.h"
 #include "workspace/CommandLine.h"
 #include "workspace/ui/ReadableStyle.h"
 #include "workspace/ui/WindowPlace.h"
@@ -79,6 +80,7 @@ int RunWindows(char* programName, const QString& commandLine)
 
 int main(int argc, char** argv)
 {
+    platform::LetOversizedWritesFail();
     QCoreApplication::setApplicationName(QStringLiteral("Quillmark"));
     const QString commandLine = platform::BuildCommandTail(platform::ArgumentsOf(argc, argv));
     if (workspace::ChooseStart(commandLine) != workspace::Start::Drop) {

@@ -110,16 +110,6 @@ QByteArray FolderOf(const QByteArray& path)
     return path.left(path.lastIndexOf('/') + 1);
 }
 
-// Writes a folder's names to the disk, as far as its file system does that.
-void SyncFolderOf(const QByteArray& path)
-{
-    const QByteArray folder = FolderOf(path) + '.';
-    const Descriptor opened(::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (opened.IsOpen()) {
-        ::fsync(opened.Number());
-    }
-}
-
 // True if both names are the same file because the file system regards no case. A file with several links is
 // taken for two.
 bool IsSameInOtherCase(int fromFolder, const char* from, int toFolder, const char* to)
@@ -210,6 +200,15 @@ Status TemporaryFile::MoveIntoPlace(Existing existing)
     }
     path_.clear();
     return {};
+}
+
+void SyncFolderOf(const QByteArray& path)
+{
+    const QByteArray folder = FolderOf(path) + '.';
+    const Descriptor opened(::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (opened.IsOpen()) {
+        ::fsync(opened.Number());
+    }
 }
 
 int RenameWithoutReplacing(int fromFolder, const char* from, int toFolder, const char* to, bool isFolder)

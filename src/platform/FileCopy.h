@@ -38,6 +38,9 @@ private:
     Descriptor file_;
 };
 
+// Writes the names in a path's folder to the disk, as far as its file system does that.
+void SyncFolderOf(const QByteArray& path);
+
 // Renames within a file system in one atomic step that refuses an existing target; where the file system
 // lacks that step, by a second link and unlinking the first name, for anything but a folder. Where the
 // target is the source itself in another case, by way of a temporary name. 0, or an errno value: EXDEV for

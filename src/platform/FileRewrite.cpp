@@ -2,6 +2,7 @@
 #include "platform/FileRewrite.h"
 
 #include "platform/Descriptor.h"
+#include "platform/FileCopy.h"
 #include "platform/NameBytes.h"
 
 #include <QDateTime>
@@ -68,6 +69,14 @@ public:
     }
 
     const Descriptor& File() const { return file_; }
+
+    // True if the file and its name are on the disk.
+    bool Sync() const
+    {
+        SyncFolderOf(path_);
+        return ::fsync(file_.Number()) == 0;
+    }
+
     QString Path() const { return FromBytes(path_); }
     void Keep() { isKept_ = true; }
 
@@ -110,7 +119,7 @@ Status RewriteFile(const QString& path, const QByteArray& head, FileRange kept, 
     }
     const bool isSafe = WriteAll(copy.File(), head) && Seek(file, begin) &&
                         CopyBytes(file, copy.File(), end - begin) && WriteAll(copy.File(), tail) &&
-                        ::fsync(copy.File().Number()) == 0 && Seek(copy.File(), 0) && Seek(file, 0);
+                        copy.Sync() && Seek(copy.File(), 0) && Seek(file, 0);
     if (!isSafe) {
         return FailureOf(errno);
     }

@@ -6,6 +6,7 @@
 #include "platform/NameBytes.h"
 
 #include <cerrno>
+#include <csignal>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -187,6 +188,11 @@ Status CreateFolder(const QString& path)
         return FailureOf(errno);
     }
     return S_ISDIR(info.st_mode) ? Status() : FailureOf(EEXIST);
+}
+
+void LetOversizedWritesFail()
+{
+    std::signal(SIGXFSZ, SIG_IGN);
 }
 
 } // namespace platform

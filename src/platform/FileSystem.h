@@ -98,4 +98,8 @@ Status CopyFolder(const QString& from, const QString& to);
 // exists" if something else is.
 Status CreateFolder(const QString& path);
 
+// From now on a write beyond the size that the user's files may have fails like one on a full disk; without
+// this it ends the process. For the whole process, at its start.
+void LetOversizedWritesFail();
+
 } // namespace platform

@@ -4,6 +4,9 @@
 #include "support/Refusals.h"
 #include "support/TempFolder.h"
 
+#include <QDateTime>
+#include <QFile>
+
 #include <fcntl.h>
 #include <functional>
 #include <gtest/gtest.h>
@@ -252,14 +255,15 @@ TEST_F(Id3Writing, TagsAreTakenOutAndTimesStay)
                                   Id3v1("Old", "Old", "Old", 3));
     const QByteArray path = platform::ToBytes(folder.Path()) + "a.mp3";
     const timespec times[2] = {{1'000'000'000, 1}, {1'100'000'000, 2}};
-    ::utimensat(AT_FDCWD, path.constData(), times, 0);
     clsID3 id3;
     id3.SetFileName(folder.Path() + u"a.mp3"_qs);
+    ::utimensat(AT_FDCWD, path.constData(), times, 0);
     EXPECT_TRUE(id3.UpdateID3Tags().IsOk());
     struct stat info
     {};
     ::stat(path.constData(), &info);
     EXPECT_TRUE(info.st_mtim.tv_sec == times[1].tv_sec && info.st_mtim.tv_nsec == 2);
+    EXPECT_TRUE(info.st_atim.tv_sec == times[0].tv_sec && info.st_atim.tv_nsec == 1);
     EXPECT_TRUE(id3.DeleteID3Tags().IsOk());
     EXPECT_EQ(folder.Content(u"a.mp3"_qs), TheAudio);
     ::stat(path.constData(), &info);
@@ -284,6 +288,17 @@ TEST_F(Id3Writing, AFailureLosesNothing)
     }
     EXPECT_EQ(folder.Content(u"a.mp3"_qs), TheAudio);
     EXPECT_TRUE(temporary.Names().isEmpty()) << "what isn't whole is of no use";
+    // Every temporary name of this minute is taken.
+    const QDateTime now = QDateTime::currentDateTime();
+    for (int second = 0; second < 120; ++second) {
+        temporary.Write(now.addSecs(second).toString(u"'mp3'yyyyMMddHHmmss'.mp3'"_qs), "taken");
+    }
+    EXPECT_TRUE(fails(path).startsWith(u"File already exists"_qs));
+    for (const QString& name : temporary.Names()) {
+        EXPECT_EQ(temporary.Content(name), "taken");
+        QFile::remove(temporary.Path() + name);
+    }
+    EXPECT_EQ(folder.Content(u"a.mp3"_qs), TheAudio);
     // Too large for the size in a frame of version 2.2.
     folder.Write(u"a.mp3"_qs, Id3Tag(2, Text("TT2", "A")) + TheAudio);
     clsID3 id3;
