@@ -33,9 +33,10 @@ void WriteMp3Tags(QByteArrayView file)
     again.SetFileName(path);
     for (const auto text : PlainTexts) {
         const QString& wanted = tags.*text;
-        // A text with a zero ends there; what is empty may come from an older tag in front of the new one.
-        const bool isPlain =
-            !wanted.isEmpty() && platform::ToWindows1252(wanted) && !wanted.contains(QChar::Null);
+        // A text with a zero ends there; what is empty may come from an older tag in front of the new one; a
+        // link that begins with a control character seems to begin with an encoding.
+        const bool isPlain = !wanted.isEmpty() && platform::ToWindows1252(wanted) &&
+                             !wanted.contains(QChar::Null) && wanted.front() >= u' ';
         Require(!isPlain || header->hasExtendedHeader || again.*text == wanted, "a text comes back");
     }
     const int pictures = tags.AttachedPictures.Count(); // one without bytes has no frame

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "metadata/ModExifTables.h"
 
+#include "metadata/modExif.h"
+
 #include <algorithm>
 #include <iterator>
 
@@ -289,25 +291,32 @@ constexpr Meaning Meanings[] = {
 };
 
 template<std::size_t Count>
-const Entry* Find(const Entry (&entries)[Count], int tag)
+QString Describe(const Entry (&entries)[Count], QByteArrayView tag, bool& decodes,
+                 const QString& unknown = QString())
 {
+    const bool isWhole = tag.size() == 2; // behind the end of the data it isn't
+    const int number = isWhole ? static_cast<uchar>(tag[0]) * 256 + static_cast<uchar>(tag[1]) : -1;
     const auto* const found = std::find_if(std::begin(entries), std::end(entries),
-                                           [tag](const Entry& entry) { return entry.tag == tag; });
-    return found == std::end(entries) ? nullptr : found;
+                                           [number](const Entry& entry) { return entry.tag == number; });
+    decodes = found != std::end(entries) && found->decodes;
+    return found == std::end(entries) ? unknown : QString::fromLatin1(found->description);
 }
 
 } // namespace
 
-QString ExifDescription(IfdKind kind, int tag, bool& decodes)
+QString modExif::ExifTagName(QByteArrayView tag, bool& decodes)
 {
-    const Entry* const entry = kind == IfdKind::Main  ? Find(MainEntries, tag)
-                               : kind == IfdKind::Gps ? Find(GpsEntries, tag)
-                                                      : Find(InteropEntries, tag);
-    decodes = entry && entry->decodes;
-    if (entry) {
-        return QString::fromLatin1(entry->description);
-    }
-    return kind == IfdKind::Main ? QStringLiteral("Unknown") : QString();
+    return Describe(MainEntries, tag, decodes, QStringLiteral("Unknown"));
+}
+
+QString modExif::GpsTagName(QByteArrayView tag, bool& decodes)
+{
+    return Describe(GpsEntries, tag, decodes);
+}
+
+QString modExif::InteropTagName(QByteArrayView tag, bool& decodes)
+{
+    return Describe(InteropEntries, tag, decodes);
 }
 
 bool HasExifMeanings(int tag)

@@ -5,7 +5,10 @@
 #include "platform/FileBytes.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cmath>
+#include <limits>
+#include <set>
 #include <utility>
 
 namespace metadata {
@@ -13,6 +16,9 @@ namespace metadata {
 namespace {
 
 constexpr qsizetype EntrySize = 12;
+
+// Values may overlap, and so may directories: 64 KiB of data could tell far more than fits anywhere.
+constexpr qint64 MostTold = 32 << 20;
 
 // Two bytes as the number that they are.
 int PlainNumber(QByteArrayView bytes)
@@ -31,33 +37,28 @@ QString HexText(double number)
 
 } // namespace
 
-// The directories that are still to be visited, by their kinds. Of each kind only one is, or those that name
-// themselves or each other would go on for ever.
-class modExif::Pending
+// The directories that are still to be visited, by their kinds.
+class modExif::IfdPending
 {
 public:
-    // True if the description is that of a directory.
-    bool Take(const QString& description, double offset)
+    explicit IfdPending(double first) { visited_.insert({IfdKind::Main, first}); }
+
+    // The place for the offset of a directory with this description; null if that isn't one's.
+    double* SlotOf(const QString& description)
     {
         static const std::array names{QStringLiteral("Exif IFD"), QStringLiteral("GPS IFD"),
                                       QStringLiteral("Interoperability IFD")};
         const auto* const found = std::find(names.begin(), names.end(), description);
-        if (found == names.end()) {
-            return false;
-        }
-        offsets_.at(static_cast<std::size_t>(found - names.begin())) = offset;
-        return true;
+        return found == names.end() ? nullptr : &offsets_.at(static_cast<std::size_t>(found - names.begin()));
     }
 
-    static bool IsDirectory(const QString& description) { return Pending().Take(description, 0); }
-
-    // The next one, or nothing.
+    // The next one that wasn't visited before, or nothing.
     std::optional<std::pair<double, IfdKind>> Next()
     {
         for (std::size_t slot = 0; slot < offsets_.size(); ++slot) {
             const double offset = std::exchange(offsets_.at(slot), 0);
             const auto kind = static_cast<IfdKind>(slot);
-            if (offset != 0 && !std::exchange(visited_.at(slot), true)) {
+            if (offset != 0 && visited_.insert({kind, offset}).second) {
                 return std::pair(offset, kind);
             }
         }
@@ -66,7 +67,7 @@ public:
 
 private:
     std::array<double, 3> offsets_{}; // 0 is none
-    std::array<bool, 3> visited_{};
+    std::set<std::pair<IfdKind, double>> visited_;
 };
 
 QString modExif::BytesToHex(QByteArrayView bytes)
@@ -76,12 +77,13 @@ QString modExif::BytesToHex(QByteArrayView bytes)
 
 double modExif::BytesToNumber(QByteArrayView bytes)
 {
-    double number = 0;
+    QByteArray digits = QByteArrayView("0").toByteArray();
     for (const char byte : bytes) {
-        const int value = static_cast<uchar>(byte);
-        number = number * (value < 16 ? 16 : 256) + value;
+        digits += QByteArray::number(static_cast<uchar>(byte), 16);
     }
-    return number;
+    double number = 0;
+    const auto read = std::from_chars(digits.cbegin(), digits.cend(), number, std::chars_format::hex);
+    return read.ec == std::errc() ? number : HUGE_VAL;
 }
 
 int modExif::BytesPerComponent(double format)
@@ -110,6 +112,7 @@ bool modExif::ParseExifSegment(const QString& path, std::vector<ExifLine>& list,
     list.clear();
     failure_.clear();
     row_ = 0;
+    told_ = 0;
     const bool isWhole = ReadSegment(path, list) && ReadDirectories(list);
     failure = failure_.isEmpty() ? platform::Status() : platform::Status::Failure(failure_);
     return isWhole;
@@ -123,24 +126,26 @@ bool modExif::ReadSegment(const QString& path, std::vector<ExifLine>& list)
         Fail(QStringLiteral("File not found"));
         return false;
     }
-    const auto refuse = [&list](const QString& line) {
-        list.push_back({line, 0});
+    const auto refuse = [&](const QString& line) {
+        if (file->HasFailed()) {
+            Fail(QStringLiteral("The file can't be read"));
+        } else {
+            list.push_back({line, 0});
+        }
         return false;
     };
     if (file->Read(0, 2) != "\xFF\xD8" || file->Read(file->Size() - 2, 2) != "\xFF\xD9") {
         return refuse(QStringLiteral("Not a JPeg file"));
     }
-    // A segment's length counts its own two bytes and not the marker's: so this lands short of the next one.
-    // A JPEG usually begins with an application segment, where nothing is stepped over.
+    // A segment's length counts its own two bytes and not the marker's: so this lands short of the next one,
+    // or before this one. A JPEG usually begins with an application segment, where nothing is stepped over.
+    constexpr int mostSteps = 10'000; // some lengths lead round and round
     qint64 at = 2;
-    QByteArray marker = file->Read(at, 2);
-    while (!BytesToHex(marker).startsWith(QStringLiteral("FFE"))) {
-        const double length = BytesToNumber(file->Read(at + 2, 2)) - 2;
-        at += static_cast<qint64>(length);
-        if (length <= 0 || at + 2 > file->Size()) {
+    for (int step = 0; !BytesToHex(file->Read(at, 2)).startsWith(QStringLiteral("FFE")); ++step) {
+        if (step == mostSteps || at < 0 || at + 4 > file->Size()) {
             return refuse(QStringLiteral("File information not found"));
         }
-        marker = file->Read(at, 2);
+        at += static_cast<qint64>(BytesToNumber(file->Read(at + 2, 2))) - 2;
     }
     const auto size = static_cast<qint64>(BytesToNumber(file->Read(at + 2, 2))) - 2;
     if (file->Read(at + 4, 6) != QByteArray("Exif\0\0", 6)) {
@@ -148,7 +153,7 @@ bool modExif::ReadSegment(const QString& path, std::vector<ExifLine>& list)
     }
     ExifBuffer_ = file->Read(at + 10, std::max<qint64>(0, size)); // six bytes more than the segment has
     const QByteArrayView order = InBuffer(0, 2);
-    if (order != QByteArrayView("II") && order != QByteArrayView("MM")) {
+    if (file->HasFailed() || (order != QByteArrayView("II") && order != QByteArrayView("MM"))) {
         return refuse(QStringLiteral("Unknown/Error Header Format"));
     }
     SetMotorola(order == QByteArrayView("MM"));
@@ -170,8 +175,9 @@ QByteArrayView modExif::InBuffer(double offset, double size) const
 
 bool modExif::ReadDirectories(std::vector<ExifLine>& list)
 {
-    Pending pending;
-    if (!ReadIfd(BytesToNumber(SwapBytes(InBuffer(4, 4))), IfdKind::Main, pending, list)) {
+    const double first = BytesToNumber(SwapBytes(InBuffer(4, 4)));
+    IfdPending pending(first);
+    if (!ReadIfd(first, IfdKind::Main, pending, list)) {
         return false;
     }
     while (const auto next = pending.Next()) {
@@ -182,8 +188,12 @@ bool modExif::ReadDirectories(std::vector<ExifLine>& list)
     return true;
 }
 
-bool modExif::ReadIfd(double offset, IfdKind kind, Pending& pending, std::vector<ExifLine>& list)
+bool modExif::ReadIfd(double offset, IfdKind kind, IfdPending& pending, std::vector<ExifLine>& list)
 {
+    if (offset < 0) {
+        Fail(QStringLiteral("Invalid procedure call or argument"));
+        return false;
+    }
     const double count = BytesToNumber(SwapBytes(InBuffer(offset, 2)));
     for (int entry = 0; entry < count; ++entry) {
         if (!ReadEntry(InBuffer(offset + 2 + entry * EntrySize, EntrySize), kind, pending, list)) {
@@ -193,17 +203,18 @@ bool modExif::ReadIfd(double offset, IfdKind kind, Pending& pending, std::vector
     return true;
 }
 
-bool modExif::ReadEntry(QByteArrayView entry, IfdKind kind, Pending& pending, std::vector<ExifLine>& list)
+bool modExif::ReadEntry(QByteArrayView entry, IfdKind kind, IfdPending& pending, std::vector<ExifLine>& list)
 {
     const auto field = [&](qsizetype at, qsizetype size) {
         const qsizetype begin = std::min(at, entry.size());
         return SwapBytes(entry.sliced(begin, std::min(size, entry.size() - begin)));
     };
-    constexpr int noTag = -1; // behind the end of the buffer
-    const QByteArray number = field(0, 2);
-    const int tag = PlainNumber(number);
+    const QByteArray tagBytes = field(0, 2);
+    const int tag = PlainNumber(tagBytes);
     bool decodes = false;
-    const QString description = ExifDescription(kind, number.size() == 2 ? tag : noTag, decodes);
+    const QString description = kind == IfdKind::Main  ? ExifTagName(tagBytes, decodes)
+                                : kind == IfdKind::Gps ? GpsTagName(tagBytes, decodes)
+                                                       : InteropTagName(tagBytes, decodes);
     const double format = BytesToNumber(field(2, 2));
     const double components = BytesToNumber(field(4, 4));
     const QByteArray value = field(8, 4);
@@ -222,20 +233,26 @@ bool modExif::ReadEntry(QByteArrayView entry, IfdKind kind, Pending& pending, st
         bytes = InBuffer(BytesToNumber(value), size);
     }
     auto text = FormatTagValue(static_cast<int>(format), bytes);
+    constexpr qint64 smallest = 32; // a line without any text takes room, too
+    told_ += bytes.size() + (text ? text->size() : 0) + smallest;
+    if (told_ > MostTold) {
+        Fail(QStringLiteral("Out of string space"));
+        return false;
+    }
     if (text && decodes) {
         text = DecodeTagValue(tag, *text);
     }
     if (!text) {
         return false;
     }
-    if (Pending::IsDirectory(description)) {
-        constexpr double greatest = 2'147'483'647;
+    if (double* const slot = pending.SlotOf(description)) {
         const auto offset = platform::ToNumber(*text);
-        if (!offset || std::fabs(*offset) > greatest) {
+        *slot = std::nearbyint(offset.value_or(0));
+        if (!offset || *slot < std::numeric_limits<qint32>::min() ||
+            *slot > std::numeric_limits<qint32>::max()) {
             Fail(offset ? QStringLiteral("Overflow") : QStringLiteral("Type mismatch"));
             return false;
         }
-        pending.Take(description, std::nearbyint(*offset));
         --row_; // the next entry takes its place
         return true;
     }

@@ -8,7 +8,6 @@
 // section 2; Exif 2.2, section 4.6.
 #pragma once
 
-#include "metadata/ModExifTables.h"
 #include "platform/Result.h"
 
 #include <QByteArray>
@@ -20,6 +19,9 @@
 
 namespace metadata {
 
+// Which dictionary names the entries of a directory.
+enum class IfdKind { Main = 0, Gps = 1, Interoperability = 2 };
+
 struct ExifLine
 {
     QString text;
@@ -29,9 +31,10 @@ struct ExifLine
 class modExif
 {
 public:
-    // Fills the list, which is cleared first. True if every directory was read to its end. A file that is
-    // refused gives one line that says why, and false. What can't be told (a fraction with the denominator 0,
-    // a text where a number is to be) and a file that can't be read end it with `failure`.
+    // Fills the list, which is cleared first. True if every directory was read to its end; each is read once,
+    // however many point at it. A file that is refused gives one line that says why, and false. What can't be
+    // told (a fraction with the denominator 0, a text where a number is to be, more than 32 MiB of values)
+    // and a file that can't be read end it with `failure`.
     bool ParseExifSegment(const QString& path, std::vector<ExifLine>& list, platform::Status& failure);
 
     // Tag, format and number of components of each entry, in hexadecimal digits. A file with fewer entries
@@ -52,6 +55,13 @@ public:
     // The bytes with the most significant first.
     QByteArray SwapBytes(QByteArrayView bytes) const;
 
+    // The dictionaries: the description of a tag, given as its two bytes, most significant first; with
+    // `decodes` its values have meanings. An unknown tag is "Unknown" in the main dictionary and has no
+    // description in the two others.
+    static QString ExifTagName(QByteArrayView tag, bool& decodes);
+    static QString GpsTagName(QByteArrayView tag, bool& decodes);
+    static QString InteropTagName(QByteArrayView tag, bool& decodes);
+
     // The text of a value, or nothing, with why in Failure().
     std::optional<QString> FormatTagValue(int format, QByteArrayView bytes);
 
@@ -64,12 +74,12 @@ public:
     void SetMotorola(bool isMotorola) { ExifMotorola_ = isMotorola ? 1 : 0; }
 
 private:
-    class Pending;
+    class IfdPending;
 
     bool ReadSegment(const QString& path, std::vector<ExifLine>& list);
     bool ReadDirectories(std::vector<ExifLine>& list);
-    bool ReadIfd(double offset, IfdKind kind, Pending& pending, std::vector<ExifLine>& list);
-    bool ReadEntry(QByteArrayView entry, IfdKind kind, Pending& pending, std::vector<ExifLine>& list);
+    bool ReadIfd(double offset, IfdKind kind, IfdPending& pending, std::vector<ExifLine>& list);
+    bool ReadEntry(QByteArrayView entry, IfdKind kind, IfdPending& pending, std::vector<ExifLine>& list);
     QByteArrayView InBuffer(double offset, double size) const;
     std::optional<double> Signed(QByteArrayView bytes, double greatest);
     std::optional<QString> Quotient(std::optional<double> numerator, std::optional<double> denominator);
@@ -79,6 +89,7 @@ private:
     int ExifMotorola_ = 0;  // 1 for big-endian
     std::vector<Row> ExifRows_;
     std::size_t row_ = 0; // the next
+    qint64 told_ = 0;     // bytes and characters of values so far
     QString failure_;
 };
 

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 //
 // The inspector's texts of values.
+#include "metadata/ModExifTables.h"
 #include "metadata/modExif.h"
 #include "platform/Conversions.h"
 #include "platform/TextFile.h"
 
 #include <QLocale>
+#include <QRegularExpression>
 
 #include <cmath>
 #include <cstring>
@@ -49,11 +51,26 @@ Number InMemoryOrder(QByteArrayView bytes)
     return number;
 }
 
+// A date in the system's short form, its year in four digits or two, which are those from 1930 to 2029.
+QDate ShortDate(const QString& text)
+{
+    const QLocale system = QLocale::system();
+    const QString form = system.dateFormat(QLocale::ShortFormat);
+    const QString twoDigits = QString(form).replace(QStringLiteral("yyyy"), QStringLiteral("yy"));
+    const QString fourDigits = QString(twoDigits).replace(QStringLiteral("yy"), QStringLiteral("yyyy"));
+    if (const QDate date = system.toDate(text, fourDigits); date.isValid()) {
+        return date;
+    }
+    constexpr int firstYear = 1930;
+    const QDate date = system.toDate(text, twoDigits); // from 1900 to 1999
+    return date.isValid() && date.year() < firstYear ? date.addYears(100) : date;
+}
+
 // A text that reads as a date is told as a long date, any other as it is.
 QString LongDateOr(const QString& text)
 {
     const auto reading = platform::ToClockReading(QString(text).replace(u'-', u'/'));
-    const QDate date = reading ? reading->date : QLocale::system().toDate(text, QLocale::ShortFormat);
+    const QDate date = reading ? reading->date : ShortDate(text);
     return date.isValid() ? QLocale::system().toString(date, QLocale::LongFormat) : text;
 }
 
@@ -66,6 +83,16 @@ QString ComponentsText(const QString& text)
         found += text.contains(QString::number(number)) ? QString::fromLatin1(names[number - 1]) : QString();
     }
     return found;
+}
+
+// Whatever blanks are around the name of the rules.
+QString InteroperabilityText(const QString& text)
+{
+    static const QRegularExpression blanks(QStringLiteral("^ +| +$"));
+    const QString name = QString(text).remove(blanks);
+    return name == QStringLiteral("R98")   ? QStringLiteral("Conforming to R98 file specification")
+           : name == QStringLiteral("THM") ? QStringLiteral("The file conforming to DCF thumbnail file")
+                                           : QString();
 }
 
 // Behind the code of the characters, up to a zero.
@@ -143,11 +170,7 @@ std::optional<QString> modExif::DecodeTagValue(int tag, const QString& text)
     QString meaning;
     switch (tag) {
     case InteroperabilityIdentification:
-        meaning = text.trimmed() == QStringLiteral("R98")
-                      ? QStringLiteral("Conforming to R98 file specification")
-                  : text.trimmed() == QStringLiteral("THM")
-                      ? QStringLiteral("The file conforming to DCF thumbnail file")
-                      : QString();
+        meaning = InteroperabilityText(text);
         break;
     case ComponentConfiguration:
         meaning = ComponentsText(text);

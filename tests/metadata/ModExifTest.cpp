@@ -83,6 +83,7 @@ TEST_F(Inspector, EachFormatHasItsWayOfReading)
         {0x927C, 7, 480, std::string(418, 'a') + std::string(62, 'b'), nullptr},
         {0x011A, 5, 1, ExifBuilder().Fraction(1, 0), "Division by zero"},
         {0x0112, 2, 5, "wrong", "Type mismatch"},
+        {0x8769, 6, 1, "\xFF", "Invalid procedure call or argument"}, // a directory at -128
     };
     for (const Row& row : rows) {
         ExifBuilder builder;
@@ -95,11 +96,17 @@ TEST_F(Inspector, EachFormatHasItsWayOfReading)
     }
     const QString day = QLocale::system().toString(QDate(2004, 5, 6), QLocale::LongFormat);
     EXPECT_EQ(inspector.FormatTagValue(2, "2004/05/06").value_or(QString()), day);
+    const QString shortDay = QLocale::system().toString(QDate(2004, 5, 6), QLocale::ShortFormat);
+    EXPECT_EQ(inspector.FormatTagValue(2, shortDay.toLatin1()).value_or(QString()), day) << "not 1904";
+    EXPECT_EQ(inspector.FormatTagValue(4, QByteArray::fromHex("2B223A31939C81EE4E7604F8")),
+              u"8.34327106997983E+26"_qs);
+    EXPECT_EQ(inspector.DecodeTagValue(1, u" R98 "_qs), u"Conforming to R98 file specification"_qs);
+    EXPECT_EQ(inspector.DecodeTagValue(1, u"\tR98"_qs), u"Undefined/Unknown"_qs) << "only blanks are cut";
     EXPECT_EQ(modExif::BytesToNumber(QByteArray("\x01\x05", 2)), 21);
     EXPECT_EQ(modExif::BytesToHex("\x0A\xFF"), u"0AFF"_qs);
 }
 
-TEST_F(Inspector, DirectoriesAreVisitedInTheirOrderAndNeverTwice)
+TEST_F(Inspector, DirectoriesAreVisitedInTheirOrder)
 {
     // The GPS directory lies at 60, the Interoperability one at 80, the Exif one where the builder puts it.
     ExifBuilder in(false);
@@ -134,6 +141,32 @@ TEST_F(Inspector, DirectoriesAreVisitedInTheirOrderAndNeverTwice)
     EXPECT_EQ(inspector.ExifRows().front().at(0), u"100"_qs);
 }
 
+TEST_F(Inspector, EveryDirectoryIsReadOnceHoweverMuchItTells)
+{
+    // One Exif directory leads to another, and that one to the main directory.
+    const ExifBuilder in(false);
+    const auto directory = [&](int tag, int value, int next) {
+        return in.Number(2, 2) + in.Number(tag, 2) + in.Number(4, 2) + in.Number(1, 4) + in.Number(value, 4) +
+               in.Number(0x8769, 2) + in.Number(4, 2) + in.Number(1, 4) + in.Number(next, 4);
+    };
+    std::string data = "MM" + in.Number(42, 2) + in.Number(8, 4) + directory(0x0100, 7, 0x40);
+    data.resize(0x40, '\0');
+    data += directory(0x0101, 8, 0x80);
+    data.resize(0x80, '\0');
+    data += directory(0x829A, 9, 8);
+    const std::string start("\xFF\xD8\xFF\xE1\0\0Exif\0\0", 12);
+    EXPECT_EQ(LinesOf(Whole(start + data)),
+              u"Motarola Header Format - Might have prob's|Image width = 7|Image height = 8|"
+              u"Exposure Time = 9|whole"_qs);
+    // Of 64 KiB 2000 texts of 32 KiB each, all at the same place.
+    std::string texts = "MM" + in.Number(42, 2) + in.Number(8, 4) + in.Number(2000, 2);
+    for (int entry = 0; entry < 2000; ++entry) {
+        texts += in.Number(0x010E, 2) + in.Number(2, 2) + in.Number(0x7FFF, 4) + in.Number(0x10, 4);
+    }
+    EXPECT_TRUE(
+        LinesOf(Whole(start + texts + std::string(0x8000, 'x'))).endsWith(u"|Out of string space"_qs));
+}
+
 TEST_F(Inspector, WhatItRefuses)
 {
     const std::string picture = ExifBuilder().Add(0x0100, 3, 1, "\x01").Picture();
@@ -150,6 +183,9 @@ TEST_F(Inspector, WhatItRefuses)
         {with(12, "IM"), "Unknown/Error Header Format|"},
         {Whole(picture), "Image width = 1|whole"},
         {"\xFF\xD8\xFF\xDB" + std::string("\0\x0A\0\0\0\0", 6) + Whole(picture).substr(2),
+         "Image width = 1|whole"},
+        // a step back by one, from where 3502 bytes are stepped over
+        {"\xFF\xD8\xFF\xDB" + std::string("\0\1", 2) + std::string(3497, '\0') + Whole(picture).substr(2),
          "Image width = 1|whole"},
     };
     for (const auto& [file, lines] : rows) {

@@ -29,6 +29,8 @@ TEST(ExifViewer, ShowsTheLinesOfAChosenPictureAndCopiesThem)
     QTest::keyClick(&lines, Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(QGuiApplication::clipboard()->text(), u"Image width = 7\nImage height = 9"_qs);
     viewer.ShowFile(folder.Path() + u"none.jpg"_qs);
+    QTest::keyClick(&lines, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_TRUE(QGuiApplication::clipboard()->text().endsWith(u"= 9"_qs)) << "nothing is selected";
     EXPECT_EQ(lines.item(lines.count() - 1)->text(), u"File not found"_qs);
 }
 

@@ -83,7 +83,9 @@ void formExif::CopyLines()
             texts << lines_->item(row)->text();
         }
     }
-    QGuiApplication::clipboard()->setText(texts.join(u'\n'));
+    if (!texts.isEmpty()) {
+        QGuiApplication::clipboard()->setText(texts.join(u'\n'));
+    }
 }
 
 } // namespace metadata
