@@ -35,8 +35,9 @@ void WriteMp3Tags(QByteArrayView file)
         const QString& wanted = tags.*text;
         // A text with a zero ends there; what is empty may come from an older tag in front of the new one; a
         // link that begins with a control character seems to begin with an encoding.
+        const bool isLink = text == &metadata::Id3Tags::CopyrightInfo;
         const bool isPlain = !wanted.isEmpty() && platform::ToWindows1252(wanted) &&
-                             !wanted.contains(QChar::Null) && wanted.front() >= u' ';
+                             !wanted.contains(QChar::Null) && (!isLink || wanted.front() >= u' ');
         Require(!isPlain || header->hasExtendedHeader || again.*text == wanted, "a text comes back");
     }
     const int pictures = tags.AttachedPictures.Count(); // one without bytes has no frame

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "metadata/ModExifTables.h"
 
+#include "metadata/ByteView.h"
 #include "metadata/modExif.h"
 
 #include <algorithm>
@@ -294,8 +295,8 @@ template<std::size_t Count>
 QString Describe(const Entry (&entries)[Count], QByteArrayView tag, bool& decodes,
                  const QString& unknown = QString())
 {
-    const bool isWhole = tag.size() == 2; // behind the end of the data it isn't
-    const int number = isWhole ? static_cast<uchar>(tag[0]) * 256 + static_cast<uchar>(tag[1]) : -1;
+    const ByteView bytes(std::string_view(tag.data(), static_cast<std::size_t>(tag.size())));
+    const auto number = bytes.UInt16(1, ByteOrder::BigEndian); // none behind the end of the data
     const auto* const found = std::find_if(std::begin(entries), std::end(entries),
                                            [number](const Entry& entry) { return entry.tag == number; });
     decodes = found != std::end(entries) && found->decodes;

@@ -20,16 +20,6 @@ constexpr qsizetype EntrySize = 12;
 // Values may overlap, and so may directories: 64 KiB of data could tell far more than fits anywhere.
 constexpr qint64 MostTold = 32 << 20;
 
-// Two bytes as the number that they are.
-int PlainNumber(QByteArrayView bytes)
-{
-    int number = 0;
-    for (const char byte : bytes) {
-        number = number * 256 + static_cast<uchar>(byte);
-    }
-    return number;
-}
-
 QString HexText(double number)
 {
     return QString::number(static_cast<quint64>(number), 16).toUpper();
@@ -77,7 +67,7 @@ QString modExif::BytesToHex(QByteArrayView bytes)
 
 double modExif::BytesToNumber(QByteArrayView bytes)
 {
-    QByteArray digits = QByteArrayView("0").toByteArray();
+    QByteArray digits("0");
     for (const char byte : bytes) {
         digits += QByteArray::number(static_cast<uchar>(byte), 16);
     }
@@ -210,7 +200,7 @@ bool modExif::ReadEntry(QByteArrayView entry, IfdKind kind, IfdPending& pending,
         return SwapBytes(entry.sliced(begin, std::min(size, entry.size() - begin)));
     };
     const QByteArray tagBytes = field(0, 2);
-    const int tag = PlainNumber(tagBytes);
+    const int tag = BytesToHex(tagBytes).toInt(nullptr, 16);
     bool decodes = false;
     const QString description = kind == IfdKind::Main  ? ExifTagName(tagBytes, decodes)
                                 : kind == IfdKind::Gps ? GpsTagName(tagBytes, decodes)
